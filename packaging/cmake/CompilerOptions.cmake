@@ -1,0 +1,27 @@
+# What every target of this project is compiled with, as the interface target `draughts_options`.
+
+add_library(draughts_options INTERFACE)
+target_compile_options(draughts_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+    -Woverloaded-virtual $<$<BOOL:${DRAUGHTS_WERROR}>:-Werror>)
+
+if(DRAUGHTS_SANITIZE)
+    target_compile_options(draughts_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(draughts_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# The search counts and scans bit sets: on x86 the instructions for that are not in the base set.
+# The program is built where it runs, so it may use what this processor has; the level is a named
+# one (not "native") so that a profile or a memory checker understands every instruction of it.
+include(CheckCXXSourceRuns)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT CMAKE_CROSSCOMPILING)
+    check_cxx_source_runs("
+        int main() {
+            return __builtin_cpu_supports(\"avx2\") && __builtin_cpu_supports(\"bmi2\") &&
+                   __builtin_cpu_supports(\"popcnt\") ? 0 : 1;
+        }" DRAUGHTS_HAS_X86_64_V3)
+    if(DRAUGHTS_HAS_X86_64_V3)
+        target_compile_options(draughts_options INTERFACE -march=x86-64-v3)
+    endif()
+endif()

@@ -1,0 +1,46 @@
+// What the program wants from the machine it runs on besides drawing: boxes, events, sounds and time.
+#ifndef PLATFORM_HOST_H
+#define PLATFORM_HOST_H
+
+#include <QString>
+
+class QWidget;
+
+// The kinds of message box; they differ in icon only.
+enum class BoxKind { Information, Warning, Critical };
+
+// The button row of a message box. Ok comes first and is the default.
+enum class BoxButtons { Ok, OkCancel };
+
+// The one seam between the program and its surroundings. All code, widgets included, reports and
+// waits through `host()`. This base class needs no display and no application object: messages go
+// to standard error and are taken as confirmed, event processing and the beep do nothing, the pause
+// and the clock are the real ones. The application installs a host with real boxes and events;
+// tests install one that records what it is asked and answers as told.
+class Host {
+public:
+    virtual ~Host() = default;
+
+    // Shows a modal box and returns when it is closed: true for Ok, false for Cancel or Escape.
+    // `parent` may be null.
+    virtual bool messageBox(BoxKind kind, const QString &title, const QString &text,
+                            BoxButtons buttons = BoxButtons::Ok, QWidget *parent = nullptr);
+    // Handles the toolkit's pending events; slots run inside the call.
+    virtual void processEvents();
+    virtual void beep();
+    // Blocks for so many microseconds.
+    virtual void pause(int microseconds);
+    // A monotonic clock in milliseconds, from an arbitrary start.
+    virtual qint64 clockMs();
+    // A seed for the random generator: the current time in seconds.
+    virtual unsigned int seed();
+};
+
+// The host in force; the display-free one until another is installed.
+Host &host();
+
+// Installs `replacement` (not owned; null brings the display-free host back) and returns the host
+// that was in force.
+Host *setHost(Host *replacement);
+
+#endif

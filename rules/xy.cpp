@@ -1,0 +1,3 @@
+#include "rules/xy.h"
+
+int XY::B_SIZE = 8;
