@@ -1,0 +1,48 @@
+// MainForm: the layout of the main window.
+#ifndef FORMS_MAINFORM_H
+#define FORMS_MAINFORM_H
+
+#include "platform/wflags.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+// A fixed form of 240 x 320 pixels: room for the board at the top and below it two rows of small
+// buttons and two labels. It creates and places its children and keeps their fonts; what the
+// buttons do is the business of the class that derives from it. btnAbout and btnBreak overlap: one
+// of them is to be hidden. The children belong to the form.
+class MainForm : public QWidget {
+    Q_OBJECT
+
+public:
+    // `name` is the object name; null stands for "MainForm".
+    explicit MainForm(QWidget *parent = nullptr, const char *name = nullptr, WFlags fl = WFlags());
+    ~MainForm() override;
+
+    QPushButton *btnSettings;
+    QPushButton *btnPrev;
+    QPushButton *btnFwd;
+    QPushButton *btnAbout;
+    QPushButton *btnBreak;
+    QPushButton *btnForce;
+    QPushButton *btnNewGame;
+    QLabel *labelScore;
+    QLabel *lblThinking;
+    QHBoxLayout *Layout8;
+
+protected:
+    // Sets the children's fonts again when the application's font changes.
+    bool event(QEvent *e) override;
+
+private:
+    QPushButton *addButton(QWidget *owner, const char *name, const QString &text);
+    void setUpWindow(const char *name);
+    void addUpperRow();
+    void addLowerRow();
+    void setFonts();
+};
+
+#endif

@@ -1,0 +1,30 @@
+// QPEApplication: the application object of the handheld's window system, on a desktop.
+#ifndef PLATFORM_QPEAPPLICATION_H
+#define PLATFORM_QPEAPPLICATION_H
+
+#include "platform/dialogcontrols.h"
+#include "platform/guihost.h"
+
+#include <QApplication>
+
+// Makes a desktop fit for the forms: prepares the display (see displaysetup.h), takes a 9 point
+// default font and a compact style, gives modal form dialogs their controls (see dialogcontrols.h)
+// and installs the host with real boxes and events for as long as it lives.
+class QPEApplication : public QApplication {
+    Q_OBJECT
+
+public:
+    // A program that draws windows on a display that someone else runs: the only kind there is.
+    enum Type { GuiClient };
+
+    // `argc` and `argv` must outlive the application.
+    QPEApplication(int &argc, char **argv, Type type = GuiClient);
+    ~QPEApplication() override;
+
+private:
+    GuiHost guiHost;
+    Host *previousHost;
+    DialogControls dialogControls;
+};
+
+#endif
