@@ -5,12 +5,12 @@
 #include "platform/wflags.h"
 
 #include <QDialog>
+#include <QStringList>
 
 class QCheckBox;
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
-class QStringList;
 class QVBoxLayout;
 
 // Four rows of a label and a combo box, and a check box. It keeps no choice of its own and has no

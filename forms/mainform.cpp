@@ -1,0 +1,116 @@
+#include "forms/mainform.h"
+
+#include "forms/formfonts.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+// "As high or wide as it likes" in the forms' terms.
+constexpr int unlimited = 32767;
+
+constexpr int smallPoints = 8;
+constexpr int forwardPoints = 9;
+
+} // namespace
+
+MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(parent, fl) {
+    setUpWindow(name);
+    addUpperRow();
+    addLowerRow();
+    setFonts();
+}
+
+MainForm::~MainForm() = default;
+
+bool MainForm::event(QEvent *e) {
+    const bool handled = QWidget::event(e);
+    if (e->type() == QEvent::ApplicationFontChange)
+        setFonts();
+    return handled;
+}
+
+void MainForm::setUpWindow(const char *name) {
+    setObjectName(QString::fromUtf8(name != nullptr ? name : "MainForm"));
+    resize(240, 320);
+    setMinimumSize(240, 310);
+    setMaximumSize(240, 320);
+    setBaseSize(240, 320);
+    QSizePolicy policy(QSizePolicy::Minimum, QSizePolicy::Minimum);
+    policy.setHeightForWidth(sizePolicy().hasHeightForWidth());
+    setSizePolicy(policy);
+    setWindowTitle(tr("tavlora v1.0.3"));
+}
+
+QPushButton *MainForm::addButton(QWidget *owner, const char *name, const QString &text) {
+    auto *button = new QPushButton(text, owner);
+    button->setObjectName(QString::fromLatin1(name));
+    return button;
+}
+
+void MainForm::addUpperRow() {
+    btnSettings = addButton(this, "btnSettings", tr("Settings"));
+    btnSettings->setGeometry(185, 235, 50, 22);
+    btnSettings->setMaximumSize(50, unlimited);
+
+    auto *steps = new QWidget(this);
+    steps->setObjectName(QStringLiteral("Layout8"));
+    steps->setGeometry(0, 235, 48, 24);
+    Layout8 = new QHBoxLayout(steps);
+    Layout8->setContentsMargins(0, 0, 0, 0);
+    Layout8->setSpacing(6);
+    btnPrev = addButton(steps, "btnPrev", tr("<<"));
+    btnPrev->setMaximumSize(20, 22);
+    Layout8->addWidget(btnPrev);
+    btnFwd = addButton(steps, "btnFwd", tr(">>"));
+    btnFwd->setMaximumSize(20, 22);
+    Layout8->addWidget(btnFwd);
+
+    btnAbout = addButton(this, "btnAbout", tr("About"));
+    btnAbout->setGeometry(85, 235, 40, 22);
+    btnAbout->setMaximumSize(40, unlimited);
+
+    // While it shows, the other buttons are disabled: with the focus on it, Space would press it.
+    btnBreak = addButton(this, "btnBreak", tr("BREAK"));
+    btnBreak->setGeometry(55, 235, 40, 22);
+    btnBreak->setMaximumSize(40, 22);
+    btnBreak->setEnabled(true);
+    btnBreak->setFocusPolicy(Qt::NoFocus);
+
+    btnForce = addButton(this, "btnForce", tr("Force Move"));
+    btnForce->setGeometry(130, 235, 60, 22);
+    btnForce->setMaximumSize(60, 22);
+    btnForce->setFlat(false);
+}
+
+void MainForm::addLowerRow() {
+    btnNewGame = addButton(this, "btnNewGame", tr("NewGame"));
+    btnNewGame->setGeometry(0, 260, 60, 22);
+    btnNewGame->setMaximumSize(60, unlimited);
+
+    labelScore = new QLabel(tr(" 12/12"), this);
+    labelScore->setObjectName(QStringLiteral("labelScore"));
+    labelScore->setGeometry(69, 261, 34, 22);
+    labelScore->setAlignment(Qt::AlignCenter);
+    labelScore->setToolTip(tr("On Board"));
+
+    lblThinking = new QLabel(tr("**** THINKING ****"), this);
+    lblThinking->setObjectName(QStringLiteral("lblThinking"));
+    lblThinking->setGeometry(115, 260, 115, 22);
+    lblThinking->setMaximumSize(150, unlimited);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(lblThinking->sizePolicy().hasHeightForWidth());
+    lblThinking->setSizePolicy(policy);
+    lblThinking->setScaledContents(false);
+    lblThinking->setAlignment(Qt::AlignCenter);
+}
+
+void MainForm::setFonts() {
+    for (QPushButton *button : {btnSettings, btnPrev, btnAbout, btnBreak, btnForce, btnNewGame})
+        formfonts::setPointSize(button, smallPoints);
+    formfonts::setPointSize(btnFwd, forwardPoints);
+    formfonts::setBold(lblThinking);
+}
