@@ -45,7 +45,7 @@ public:
     int size; // 6, 8, 10 or 12; 0 for a board that holds nothing
 
     // The start position of an n x n board with a fresh search record.
-    explicit board(int n);
+    explicit board(int n = 0);
     // A copy of every field of `other`.
     explicit board(const board *other) : board(*other) {}
     board(const board &) = default;

@@ -1,0 +1,123 @@
+#include "search/enginenode.h"
+
+#include "eval/heuristic.h"
+#include "platform/host.h"
+#include "search/bestline.h"
+#include "search/eventpump.h"
+#include "search/hashtable.h"
+#include "search/movesort.h"
+#include "search/thinkstatistic.h"
+
+#include <algorithm>
+
+void EngineNode::begin(int level) {
+    level_ = level;
+    if (trace_)
+        key_ = engine_.board->HKey();
+    if (level == 0) {
+        AbstractEngine::absHorizon = engine_.board->plyCount + engine_.depth / 10;
+        AbstractEngine::pHT->clear();
+    }
+}
+
+// A list that was searched before is ordered by the scores of that time.
+bool EngineNode::listMoves() {
+    if (!engine_.moveList.isEmpty()) {
+        sortByScore(engine_.moveList);
+        AbstractEngine::depthUpdate(&engine_.moveList);
+        return false;
+    }
+    const bool noMoves = engine_.FillMoveList();
+    engine_.randMoveList();
+    return noMoves;
+}
+
+void EngineNode::count(int level) {
+    thinkStatistic &statistic = *engine_.statistic;
+    thinkStatistic::count(statistic.nodes, 1);
+    statistic.maxLevel = std::max(statistic.maxLevel, level);
+    thinkStatistic::count(statistic.movesGenerated, moves());
+    pumpEvents(nodesBetweenEvents);
+}
+
+bool EngineNode::giveAway() const {
+    return engine_.statistic->giveAway;
+}
+
+bool EngineNode::staticValue(int level, int, int &value) {
+    int freedom = 0;
+    bool canPass = false;
+    heuristic analysis;
+    heuristic *passages = engine_.doHeuristic(&analysis, freedom, canPass);
+    if (!engine_.canScore(level, canPass))
+        return false;
+    value = engine_.materialScore(passages) + freedom;
+    if (giveAway())
+        value = -value;
+    return true;
+}
+
+void EngineNode::enter(int i, int childBudget) {
+    LegalMove &m = engine_.moveList[i];
+    if (m.subBoard == nullptr) {
+        m.subBoard = new board(engine_.board);
+        engine_.makeMove(m.subBoard, &m);
+    }
+    if (m.subEngine == nullptr)
+        m.subEngine = engine_.selfClone(m.subBoard, childBudget, engine_.statistic, engine_.size);
+    m.subEngine->depth = childBudget - std::max(m.reduction, 0);
+}
+
+bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
+    board *child = engine_.moveList[i].subBoard;
+    if (trace_)
+        childKey_ = child->HKey();
+    if (!engine_.canUseHT(child, beta, alpha))
+        return false;
+    thinkStatistic::count(engine_.statistic->hashHits, 1);
+    value.set(child->hashScore, child->hashHorizon);
+    return true;
+}
+
+void EngineNode::search(int i, int level, Score &value, const Score &alpha, const Score &beta,
+                        BestLine &line) {
+    engine_.moveList[i].subEngine->getBestMove(level, value, alpha, beta, line, false);
+}
+
+void EngineNode::leave(int i, int level) {
+    constexpr int lastCachedLevel = 2;
+    if (level <= lastCachedLevel)
+        return;
+    LegalMove &m = engine_.moveList[i];
+    delete m.subEngine;
+    m.subEngine = nullptr;
+    delete m.subBoard;
+    m.subBoard = nullptr;
+}
+
+void EngineNode::updateLine(BestLine &line, int i, int level) const {
+    line.updateAt(&engine_.moveList[i], level);
+}
+
+void EngineNode::countCutoff() {
+    thinkStatistic::count(engine_.statistic->cutoffs, 1);
+}
+
+void EngineNode::countSacrifice() {
+    thinkStatistic::count(engine_.statistic->senselessSacrifices, 1);
+}
+
+void EngineNode::record(const Score &value, int alpha0, const Score &beta, bool insert) {
+    board &b = *engine_.board;
+    b.hashHorizon = AbstractEngine::absHorizon;
+    b.hashScore = value.value;
+    b.hashAlpha = alpha0;
+    b.hashBeta = beta.value;
+    if (insert)
+        AbstractEngine::pHT->insert(&b);
+}
+
+void EngineNode::trace(int alpha0, const Score &beta) const {
+    if (trace_)
+        engine_.printPLM(alpha0, beta.value, key_, childKey_, level_);
+}

@@ -1,0 +1,19 @@
+// Lets the application breathe while the search runs.
+#ifndef SEARCH_EVENTPUMP_H
+#define SEARCH_EVENTPUMP_H
+
+#include "platform/host.h"
+#include "search/abstractengine.h"
+
+// The countdown's restart value: events are processed once every 201 nodes.
+inline constexpr int nodesBetweenEvents = 200;
+
+// Counts one node; when the countdown has run out, processes pending events and starts it again.
+inline void pumpEvents(int restart) {
+    if (--AbstractEngine::eventLoop >= 0)
+        return;
+    host().processEvents();
+    AbstractEngine::eventLoop = restart;
+}
+
+#endif
