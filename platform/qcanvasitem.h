@@ -31,9 +31,9 @@ public:
 
     double x() const { return x_; }
     double y() const { return y_; }
-    // Moves by so many pixels; the other moving operations end here.
-    virtual void moveBy(double dx, double dy);
-    void move(double x, double y) { moveBy(x - x_, y - y_); }
+    // Moves to exactly that position; the other moving operations end here.
+    virtual void move(double x, double y);
+    void moveBy(double dx, double dy) { move(x_ + dx, y_ + dy); }
     void setX(double x) { move(x, y_); }
     void setY(double y) { move(x_, y); }
 

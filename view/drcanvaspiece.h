@@ -65,7 +65,7 @@ private:
     int by = 0;
     int w;
     int h;
-    int type = 5;
+    int type;
     double prevDistance = 0; // to the leg's target at the previous step; 0 at rest
     boardMetrics *metrics;
     QArray<XY> *dancePath = nullptr; // null when idle
