@@ -146,14 +146,16 @@ has_cmake_package() {
 }
 
 # build PRESET [target...]: configures build/PRESET where that has not been done for this checkout,
-# and builds the targets, or everything.
+# and builds the targets, or everything. A build folder that came along with a copied checkout still
+# points to the old place and is of no use.
 build() {
     preset=$1
     shift
     folder=build/$preset
     if [ ! -f "$folder/build.ninja" ] ||
         ! grep -sqxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$folder/CMakeCache.txt"; then
-        quietly "Configuring" "configure-$preset.log" cmake --preset "$preset" --fresh || return 1
+        rm -rf "$folder"
+        quietly "Configuring" "configure-$preset.log" cmake --preset "$preset" || return 1
     fi
     quietly "Building" "build-$preset.log" cmake --build "$folder" ${1:+--target "$@"}
 }
