@@ -1,0 +1,85 @@
+// Draughts: the flight of a move and its completion on the board.
+
+#include "app/draughts.h"
+
+#include "app/gamehist.h"
+#include "platform/host.h"
+#include "rules/board.h"
+#include "rules/legalmove.h"
+#include "view/boardmetrics.h"
+#include "view/drcanvas.h"
+#include "view/drcanvaspiece.h"
+
+#include <QPushButton>
+
+#include <utility>
+
+namespace {
+
+unsigned char crowned(unsigned char code) {
+    return static_cast<unsigned char>((code | codeKing) & ~codeMan);
+}
+
+} // namespace
+
+void Draughts::AnimateLegalMove(LegalMove *m) {
+    markSquares(0);
+    if (m == nullptr) {
+        host().messageBox(BoxKind::Warning, QStringLiteral("AnimateLegalMove"),
+                          QStringLiteral("no move given"));
+        return;
+    }
+    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
+    lockControls();
+    for (const XY &square : m->taken) {
+        unsigned char &code = pBoard->Get(square);
+        code |= codeTaken;
+        pieces[square.x][square.y]->setType(code);
+        pCanvas->update();
+    }
+    danceTo->resize(0);
+    for (unsigned i = 1; i < m->path.size(); ++i)
+        danceTo->append(m->path[i]);
+    connect(pCanvas.get(), &DrCanvas::signalDance, this, &Draughts::AfterDance,
+            Qt::UniqueConnection);
+    pMove = m;
+    flying = true;
+    pieces[m->from().x][m->from().y]->setDanceTo(danceTo.get());
+}
+
+void Draughts::AfterDance() {
+    if (!flying || closed)
+        return;
+    flying = false;
+    restoreControls();
+    disconnect(pCanvas.get(), &DrCanvas::signalDance, this, &Draughts::AfterDance);
+    updatePieceInfo(pMove->from().x, pMove->from().y, pMove->to().x, pMove->to().y);
+    for (const XY &square : pMove->taken) {
+        trashPiece(square.x, square.y);
+        pCanvas->markSQ(square.x, square.y, MarkNone);
+    }
+    // The engine is about to list other moves.
+    pMove = nullptr;
+    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
+    pHist->insert(pBoard.get());
+    btnPrev->setEnabled(true);
+    btnFwd->setEnabled(false);
+    ++pBoard->plyCount;
+    DoPlayerMove();
+}
+
+void Draughts::updatePieceInfo(int x1, int y1, int x2, int y2) {
+    unsigned char code = pBoard->squares[x1][y1];
+    if ((code & codeWhite) != 0 && y2 == pMetrics->size - 1)
+        code = crowned(code);
+    pBoard->squares[x1][y1] = 0;
+    if ((code & codeBlack) != 0 && y2 == 0)
+        code = crowned(code);
+    pBoard->squares[x2][y2] = code;
+
+    DrCanvasPiece *piece = std::exchange(pieces[x1][y1], nullptr);
+    pieces[x2][y2] = piece;
+    if (piece != nullptr)
+        piece->setType(code);
+    pCanvas->update();
+}

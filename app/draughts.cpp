@@ -1,0 +1,146 @@
+// Draughts: construction, destruction, closing and the new game.
+
+#include "app/draughts.h"
+
+#include "app/choices.h"
+#include "app/gamehist.h"
+#include "forms/fabout.h"
+#include "forms/formsettings.h"
+#include "platform/host.h"
+#include "rules/board.h"
+#include "search/abstractengine.h"
+#include "search/hashtable.h"
+#include "search/thinkstatistic.h"
+#include "view/boardmetrics.h"
+#include "view/drcanvas.h"
+#include "view/mycanvasview.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <new>
+
+hashTable HT(10003);
+
+namespace {
+
+constexpr int firstSquares = 10;
+constexpr int firstPixels = 240;
+constexpr int stepMs = 25;
+// The engine's depth until its first search sets one.
+constexpr int initialDepth = 1;
+
+} // namespace
+
+Draughts::Draughts(QWidget *parent, const char *name)
+    : MainForm(parent, name), squareValues(firstSquares, false) {
+    pSettings = std::make_unique<formsettings>(this, nullptr, true);
+    pSettings->hide();
+    pMetrics = std::make_unique<boardMetrics>(firstSquares, firstPixels, firstPixels);
+    XY::B_SIZE = pMetrics->size;
+    pHist = std::make_unique<gameHist>();
+    connect(btnPrev, &QPushButton::clicked, this, &Draughts::histPrev);
+    connect(btnFwd, &QPushButton::clicked, this, &Draughts::histFwd);
+    createGame();
+    createCanvas();
+    CreateCanvasPieces(pCanvas.get(), pBoard.get());
+    createView();
+    pView->show();
+
+    btnBreak->hide();
+    btnAbout->show();
+    labelScore->show();
+    pAbout = new fabout(this, nullptr, true);
+    pAbout->hide();
+    connect(btnSettings, &QPushButton::clicked, this, &Draughts::showSettings);
+    connect(btnAbout, &QPushButton::clicked, this, &Draughts::showAbout);
+    setLevel(pSettings->levelIndex);
+    setRules(pSettings->rulesIndex);
+    newGame();
+}
+
+Draughts::~Draughts() {
+    pBoard.reset();
+    pCanvas.reset();
+    pStat.reset();
+    pHist.reset();
+    pSettings.reset();
+    pEngine.reset();
+}
+
+// The position, what searches it, and the request of the search.
+void Draughts::createGame() {
+    pStat = std::make_unique<thinkStatistic>();
+    pBoard.reset(new (std::nothrow)::board(0));
+    if (pBoard == nullptr) {
+        host().messageBox(BoxKind::Warning, QStringLiteral("Draughts::Draughts"),
+                          QStringLiteral("new board() failed"));
+    } else {
+        pBoard->startPos(pMetrics->size);
+    }
+    adoptEngine(fallbackRules()(pBoard.get(), initialDepth, pStat.get(), pMetrics->size));
+    pStat->setReqTime(fallbackLevel().seconds);
+    if (pEngine == nullptr) {
+        host().messageBox(BoxKind::Warning, QStringLiteral("Draughts::Draughts"),
+                          QStringLiteral("new engine(board*) failed"));
+    }
+    danceTo = std::make_unique<QArray<XY>>();
+}
+
+void Draughts::adoptEngine(AbstractEngine *engine) {
+    pEngine.reset(engine);
+    AbstractEngine::setSQV(&squareValues);
+    AbstractEngine::pHT = &HT;
+}
+
+void Draughts::createCanvas() {
+    pCanvas = std::make_unique<DrCanvas2>(pMetrics.get());
+    pCanvas->setBackgroundColor(Qt::white);
+    pCanvas->setAdvancePeriod(stepMs);
+}
+
+void Draughts::createView() {
+    pView = new MyCanvasView(pCanvas.get(), this, pMetrics.get());
+}
+
+// A dialog that is open, or a search that runs, is left at once, so that the event loop can end.
+void Draughts::closeEvent(QCloseEvent *event) {
+    MainForm::closeEvent(event);
+    if (!event->isAccepted())
+        return;
+    closed = true;
+    AbstractEngine::breakThinking = true;
+    for (QDialog *dialog :
+         {static_cast<QDialog *>(pSettings.get()), static_cast<QDialog *>(pAbout)}) {
+        if (dialog->isVisible())
+            dialog->reject();
+    }
+}
+
+void Draughts::newGame() {
+    if (isBusy())
+        return;
+    if (pHist->canPrev() &&
+        !host().messageBox(BoxKind::Warning, QStringLiteral("confirm"),
+                           QStringLiteral("confirm NewGame"), BoxButtons::OkCancel, this))
+        return;
+    pHist->clear();
+    pStat->newGame();
+    setPlayers(false, true);
+    selection.resize(0);
+    markSquares(0);
+    danceTo->resize(0);
+    btnForce->setEnabled(true);
+    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
+    trashAllPieces();
+    pBoard->startPos(pMetrics->size);
+    pEngine->FillMoveList();
+    CreateCanvasPieces(pCanvas.get(), pBoard.get());
+    pHist->insert(pBoard.get());
+    btnFwd->setEnabled(false);
+    btnPrev->setEnabled(false);
+    setPlayersByChoice(pSettings->cmbPlayers->currentIndex());
+    DoPlayerMove();
+}

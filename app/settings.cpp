@@ -1,0 +1,138 @@
+// Draughts: the settings and the dialog for them.
+
+#include "app/draughts.h"
+
+#include "app/choices.h"
+#include "app/gamehist.h"
+#include "forms/formsettings.h"
+#include "platform/host.h"
+#include "rules/board.h"
+#include "search/abstractengine.h"
+#include "search/thinkstatistic.h"
+#include "view/boardmetrics.h"
+#include "view/drcanvas.h"
+#include "view/mycanvasview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+
+namespace {
+
+// What the dialog holds, for comparing and for putting it back.
+struct Chosen {
+    int level;
+    int rules;
+    int size;
+    int players;
+    bool giveAway;
+};
+
+Chosen chosenIn(const formsettings &dialog) {
+    return {dialog.levelIndex, dialog.rulesIndex, dialog.sizeIndex,
+            dialog.cmbPlayers->currentIndex(), dialog.giveAway};
+}
+
+void showInWidgets(formsettings &dialog, const Chosen &chosen) {
+    dialog.cmbLevel->setCurrentIndex(chosen.level);
+    dialog.cmbRules->setCurrentIndex(chosen.rules);
+    dialog.cmbSize->setCurrentIndex(chosen.size);
+    dialog.chGiveAway->setChecked(chosen.giveAway);
+}
+
+void putBack(formsettings &dialog, const Chosen &chosen) {
+    showInWidgets(dialog, chosen);
+    dialog.cmbPlayers->setCurrentIndex(chosen.players);
+    dialog.levelIndex = chosen.level;
+    dialog.rulesIndex = chosen.rules;
+    dialog.sizeIndex = chosen.size;
+    dialog.giveAway = chosen.giveAway;
+}
+
+void reportUnknown(const char *title, const char *text) {
+    host().messageBox(BoxKind::Critical, QString::fromLatin1(title), QString::fromLatin1(text));
+}
+
+} // namespace
+
+void Draughts::setRules(int index) {
+    if (isBusy())
+        return;
+    EngineMaker make = rulesChoice(index);
+    pEngine.reset();
+    if (make == nullptr) {
+        reportUnknown("Draughts::setRules", "unknown rules, using international");
+        make = fallbackRules();
+    }
+    adoptEngine(make(pBoard.get(), 1, pStat.get(), pMetrics->size));
+    pEngine->FillMoveList();
+}
+
+// The metrics keep their pixels: the squares of the new board share those of the old one.
+void Draughts::setBSize(int index) {
+    if (isBusy())
+        return;
+    int squares = squaresChoice(index);
+    if (squares == 0) {
+        reportUnknown("Draughts::setRules", "unknown size, using international");
+        squares = fallbackSquares();
+    }
+    pMetrics->size = squares;
+    XY::B_SIZE = squares;
+    pBoard->startPos(squares);
+    adoptEngine(pEngine->selfClone(pBoard.get(), 1, pStat.get(), squares));
+    delete pView;
+    pCanvas.reset();
+    trash.resize(0);
+    createCanvas();
+    CreateCanvasPieces(pCanvas.get(), pBoard.get());
+    createView();
+    placeView();
+    pView->show();
+    pHist->clear();
+    newGame();
+}
+
+void Draughts::setLevel(int index) {
+    const Level *level = levelChoice(index);
+    if (level == nullptr) {
+        reportUnknown("Draughts::setLevel", "unknown value, using default");
+        level = &fallbackLevel();
+        pSettings->cmbLevel->setCurrentIndex(fiveSecondsItem);
+    }
+    if (level->plies > 0)
+        pStat->setReqDepth(level->plies);
+    else
+        pStat->setReqTime(level->seconds);
+    pStat->scoreNoise = level->scoreNoise;
+}
+
+void Draughts::setGiveAway(bool on) {
+    pStat->giveAway = on;
+}
+
+// Rules and level are in place before a new size starts its new game. A size that was changed but
+// not accepted leaves the game as it was.
+void Draughts::showSettings() {
+    if (isBusy())
+        return;
+    const Chosen before = chosenIn(*pSettings);
+    showInWidgets(*pSettings, before);
+    const bool accepted = pSettings->exec() == QDialog::Accepted;
+    if (closed)
+        return;
+    const Chosen now = chosenIn(*pSettings);
+    if (accepted) {
+        pStat->giveAway = now.giveAway;
+        if (now.level != before.level)
+            setLevel(now.level);
+        if (now.rules != before.rules)
+            setRules(now.rules);
+        if (now.size != before.size)
+            setBSize(now.size);
+        setPlayersByChoice(pSettings->cmbPlayers->currentIndex());
+    } else {
+        putBack(*pSettings, before);
+    }
+    if (now.size == before.size)
+        DoPlayerMove();
+}
