@@ -40,6 +40,9 @@ public:
     static const XY jmpInter[4];   // the four diagonal steps, in the order all loops take them
     static const XY jmpEnd[4];     // the same, doubled
 
+    // Points for a square that a side holds or can reach, while it has few of them.
+    static constexpr int freedomValue = 20;
+
     AbstractEngine(::board *b, int depth, thinkStatistic *stat, int size);
     // Releases the tree under the engine; the board stays.
     virtual ~AbstractEngine();

@@ -3,6 +3,7 @@
 #include "eval/heuristic.h"
 #include "platform/host.h"
 #include "search/bestline.h"
+#include "search/deepsearch.h"
 #include "search/eventpump.h"
 #include "search/hashtable.h"
 #include "search/movesort.h"
@@ -10,8 +11,17 @@
 
 #include <algorithm>
 
+namespace {
+
+// Children of nodes up to this level are kept.
+constexpr int lastCachedLevel = 2;
+
+} // namespace
+
 void EngineNode::begin(int level) {
     level_ = level;
+    if (level > lastCachedLevel)
+        deep_ = DeepSearch::running();
     if (trace_)
         key_ = engine_.board->HKey();
     if (level == 0) {
@@ -59,16 +69,26 @@ bool EngineNode::staticValue(int level, int, int &value) {
 
 void EngineNode::enter(int i, int childBudget) {
     LegalMove &m = engine_.moveList[i];
+    childBudget_ = childBudget - std::max(m.reduction, 0);
+    if (deep_ != nullptr)
+        deep_->enter(*engine_.board, m);
+    else
+        enterEngine(m);
+}
+
+void EngineNode::enterEngine(LegalMove &m) {
     if (m.subBoard == nullptr) {
         m.subBoard = new board(engine_.board);
         engine_.makeMove(m.subBoard, &m);
     }
     if (m.subEngine == nullptr)
-        m.subEngine = engine_.selfClone(m.subBoard, childBudget, engine_.statistic, engine_.size);
-    m.subEngine->depth = childBudget - std::max(m.reduction, 0);
+        m.subEngine = engine_.selfClone(m.subBoard, childBudget_, engine_.statistic, engine_.size);
+    m.subEngine->depth = childBudget_;
 }
 
 bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
+    if (deep_ != nullptr)
+        return deep_->probe(beta, alpha, value);
     board *child = engine_.moveList[i].subBoard;
     if (trace_)
         childKey_ = child->HKey();
@@ -81,12 +101,14 @@ bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
 
 void EngineNode::search(int i, int level, Score &value, const Score &alpha, const Score &beta,
                         BestLine &line) {
-    engine_.moveList[i].subEngine->getBestMove(level, value, alpha, beta, line, false);
+    if (deep_ != nullptr)
+        deep_->search(level, childBudget_, value, alpha, beta, line);
+    else
+        engine_.moveList[i].subEngine->getBestMove(level, value, alpha, beta, line, false);
 }
 
 void EngineNode::leave(int i, int level) {
-    constexpr int lastCachedLevel = 2;
-    if (level <= lastCachedLevel)
+    if (level <= lastCachedLevel || deep_ != nullptr)
         return;
     LegalMove &m = engine_.moveList[i];
     delete m.subEngine;
@@ -113,8 +135,8 @@ void EngineNode::record(const Score &value, int alpha0, const Score &beta, bool 
     b.hashScore = value.value;
     b.hashAlpha = alpha0;
     b.hashBeta = beta.value;
-    if (insert)
-        AbstractEngine::pHT->insert(&b);
+    if (insert && AbstractEngine::pHT->insert(&b) == 1 && DeepSearch::running() != nullptr)
+        DeepSearch::running()->noteStored(b);
 }
 
 void EngineNode::trace(int alpha0, const Score &beta) const {

@@ -4,8 +4,11 @@
 
 #include "search/abstractengine.h"
 
+class DeepSearch;
+
 // The kind of node that the upper levels of the tree consist of: its children's engines and boards
-// hang on the engine's moves and, at levels 0 to 2, stay there from one iteration to the next.
+// hang on the engine's moves and, at levels 0 to 2, stay there from one iteration to the next. From
+// level 3 on children are dropped after the visit; they are left to the running DeepSearch, if any.
 class EngineNode {
 public:
     EngineNode(AbstractEngine &engine, bool trace) : engine_(engine), trace_(trace) {}
@@ -37,9 +40,13 @@ public:
     void trace(int alpha0, const Score &beta) const;
 
 private:
+    void enterEngine(LegalMove &m);
+
     AbstractEngine &engine_;
     const bool trace_;
     int level_ = 0;
+    DeepSearch *deep_ = nullptr; // searches the children, where that is not left to engines
+    int childBudget_ = 0;
     unsigned int key_ = 0;
     unsigned int childKey_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "eval/heuristic.h"
 #include "rules/capturelimit.h"
 #include "search/abstractengine.h"
+#include "search/deepsearch.h"
 #include "search/enginenode.h"
 #include "search/eventpump.h"
 #include "search/hashtable.h"
@@ -14,11 +15,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace {
-
-// Points for a square that a side holds or can reach.
-constexpr int freedomValue = 20;
 
 // The tree dump processes events more often than the search: writing is slow.
 constexpr int dumpsBetweenEvents = 20;
@@ -28,6 +27,9 @@ constexpr int dumpsBetweenEvents = 20;
 LegalMove *AbstractEngine::getBestMove(int level, Score &result, Score alpha, Score beta,
                                        BestLine &line, bool trace) {
     const CaptureLimitScope report;
+    std::optional<DeepSearchScope> deep;
+    if (level == 0)
+        deep.emplace(*this);
     EngineNode node(*this, trace);
     const int best = NodeProcedure<EngineNode>(node, level).run(result, alpha, beta, line);
     return best < 0 ? nullptr : &moveList[best];

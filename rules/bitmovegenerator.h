@@ -1,0 +1,255 @@
+// BitMoveGenerator: moves of a bit position, in the order and number of the rule engines'.
+#ifndef RULES_BITMOVEGENERATOR_H
+#define RULES_BITMOVEGENERATOR_H
+
+#include "rules/bitposition.h"
+#include "rules/capturelimit.h"
+
+#include <array>
+#include <vector>
+
+// In what the rule sets differ. A generator is made for one of these and one size.
+struct RuleTraits {
+    bool menCaptureBackwards;
+    bool flyingKings;
+    bool maximumCapture; // only the captures that take the most pieces are legal
+    const char *manCapture;  // the operation that reports a man's capture beyond the limit
+    const char *kingCapture; // the same for a king's; flying kings have no limit
+};
+
+inline constexpr RuleTraits internationalRules{true, true, true, "IntEngine::genCapManMove",
+                                               nullptr};
+inline constexpr RuleTraits polishRules{true, true, false, "IntEngine::genCapManMove", nullptr};
+inline constexpr RuleTraits americanRules{false, false, false, "AmEngine::genCapManMove",
+                                          "AmEngine::genCapKingMove"};
+
+// Lists of many nodes, one above the other; memory is kept for the next search.
+template <int N>
+using MoveStack = std::vector<BitMove<N>>;
+
+// Lists and counts the moves of one side of one position. The position is not changed; moves go on
+// top of a stack that the caller keeps.
+template <int N, const RuleTraits &Rules, bool White>
+class BitMoveGenerator {
+    using Squares = DarkSquares<N>;
+    using Bits = typename Squares::Bits;
+
+public:
+    explicit BitMoveGenerator(const BitPosition<N> &p)
+        : own_(p.template side<White>()), enemy_(p.template side<!White>()), kings_(own_ & p.kings),
+          men_(own_ & ~p.kings), empty_(p.empty()) {}
+
+    // Some own piece can capture.
+    bool canCapture() const { return (manCapturers() | kingCapturers()) != 0; }
+
+    // Number of non-capturing moves.
+    int countQuiet() const {
+        using S = Squares;
+        int count = countBits(left() & empty_) + countBits(right() & empty_);
+        if (kings_ == 0)
+            return count;
+        forEachDirection([&](auto d) {
+            Bits reached = S::template step<d>(kings_) & empty_;
+            count += countBits(reached);
+            while (Rules.flyingKings && reached != 0) {
+                reached = S::template step<d>(reached) & empty_;
+                count += countBits(reached);
+            }
+        });
+        return count;
+    }
+
+    // Appends the non-capturing moves: by piece in square order; a man's left target first, a
+    // king's directions in their order and outwards.
+    void listQuiet(MoveStack<N> &stack) const {
+        constexpr int toLeft = White ? Squares::half : Squares::half + 1;
+        constexpr int toRight = White ? Squares::half + 1 : Squares::half;
+        const Bits leftTargets = left() & empty_;
+        const Bits rightTargets = right() & empty_;
+        for (Bits rest = own_; rest != 0;) {
+            const int from = takeLowest(rest);
+            if ((kings_ >> from & 1) != 0) {
+                listKing(stack, from);
+                continue;
+            }
+            if (from >= toLeft && (leftTargets >> (from - toLeft) & 1) != 0)
+                append(stack, from, from - toLeft, 0);
+            if ((rightTargets >> (from + toRight) & 1) != 0)
+                append(stack, from, from + toRight, 0);
+        }
+    }
+
+    // Appends the legal captures in the order of generation.
+    void listCaptures(MoveStack<N> &stack) {
+        first_ = stack.size();
+        most_ = 0;
+        const Bits capturingMen = manCapturers();
+        for (Bits rest = capturingMen | kingCapturers(); rest != 0;) {
+            from_ = takeLowest(rest);
+            const Bits start = Squares::bit(from_);
+            landing_ = empty_ | start;
+            if ((kings_ & start) == 0)
+                manSequences(stack, start, 0, 1);
+            else if constexpr (Rules.flyingKings)
+                flyingSequences(stack, start, 0, 1);
+            else
+                shortKingSequences(stack, start, 0, 1);
+        }
+    }
+
+private:
+    template <class Use>
+    static void forEachDirection(Use use) {
+        use(std::integral_constant<int, 0>());
+        use(std::integral_constant<int, 1>());
+        use(std::integral_constant<int, 2>());
+        use(std::integral_constant<int, 3>());
+    }
+
+    static constexpr bool isForward(int d) { return White ? d == 0 || d == 3 : d == 1 || d == 2; }
+
+    // The squares to the left and right in front of the men.
+    Bits left() const {
+        return White ? Squares::template step<3>(men_) : Squares::template step<2>(men_);
+    }
+    Bits right() const {
+        return White ? Squares::template step<0>(men_) : Squares::template step<1>(men_);
+    }
+
+    // Those of `pieces` that can make a short jump.
+    template <bool AllDirections>
+    Bits jumpers(Bits pieces) const {
+        Bits found = 0;
+        forEachDirection([&](auto d) {
+            if constexpr (AllDirections || isForward(d)) {
+                constexpr int back = oppositeDirection(d);
+                const Bits victims = enemy_ & Squares::template step<back>(empty_);
+                found |= Squares::template step<back>(victims);
+            }
+        });
+        return found & pieces;
+    }
+
+    Bits manCapturers() const { return jumpers<Rules.menCaptureBackwards>(men_); }
+
+    Bits kingCapturers() const {
+        if (kings_ == 0)
+            return 0;
+        if constexpr (!Rules.flyingKings)
+            return jumpers<true>(kings_);
+        Bits found = 0;
+        forEachDirection([&](auto d) {
+            constexpr int back = oppositeDirection(d);
+            Bits view = Squares::template step<back>(enemy_ & Squares::template step<back>(empty_));
+            found |= view;
+            for (view &= empty_; view != 0; view &= empty_) {
+                view = Squares::template step<back>(view);
+                found |= view;
+            }
+        });
+        return found & kings_;
+    }
+
+    static void append(MoveStack<N> &stack, int from, int to, Bits taken) {
+        stack.push_back({taken, 0, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)});
+    }
+
+    template <int d>
+    void listRay(MoveStack<N> &stack, int from) const {
+        Bits target = Squares::template step<d>(Squares::bit(from)) & empty_;
+        while (target != 0) {
+            append(stack, from, lowestBit(target), 0);
+            target = Rules.flyingKings ? Squares::template step<d>(target) & empty_ : 0;
+        }
+    }
+
+    void listKing(MoveStack<N> &stack, int from) const {
+        forEachDirection([&](auto d) { listRay<d>(stack, from); });
+    }
+
+    // A sequence is complete: keeps it unless longer ones are known; a longer one drops the others.
+    void complete(MoveStack<N> &stack, Bits to, Bits taken, int jumps) {
+        if constexpr (Rules.maximumCapture) {
+            if (jumps < most_)
+                return;
+            if (jumps > most_)
+                stack.resize(first_);
+            most_ = jumps;
+        }
+        append(stack, from_, lowestBit(to), taken);
+    }
+
+    // Depth-first over the jumps of a short-stepping piece that stands on `at`, jump number `level`
+    // coming next. Jumped pieces stay and block until the move is over.
+    template <bool AllDirections, class Continue>
+    bool shortJumps(MoveStack<N> &stack, Bits at, Bits taken, int level, Continue next) {
+        bool found = false;
+        forEachDirection([&](auto d) {
+            if constexpr (AllDirections || isForward(d)) {
+                const Bits over = Squares::template step<d>(at) & enemy_ & ~taken;
+                const Bits land = Squares::template step<d>(over) & landing_;
+                if (land != 0) {
+                    found = true;
+                    next(land, taken | over);
+                }
+            }
+        });
+        if (!found && level > 1)
+            complete(stack, at, taken, level - 1);
+        return found;
+    }
+
+    void manSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+        if (level > maxCaptureLevel) {
+            CaptureLimitScope::exceeded(Rules.manCapture);
+            return;
+        }
+        shortJumps<Rules.menCaptureBackwards>(stack, at, taken, level, [&](Bits land, Bits all) {
+            manSequences(stack, land, all, level + 1);
+        });
+    }
+
+    void shortKingSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+        if (level > maxCaptureLevel) {
+            CaptureLimitScope::exceeded(Rules.kingCapture);
+            return;
+        }
+        shortJumps<true>(stack, at, taken, level, [&](Bits land, Bits all) {
+            shortKingSequences(stack, land, all, level + 1);
+        });
+    }
+
+    // A flying king may land on any free square behind the piece it jumps; squares from which it
+    // can go on exclude the others.
+    bool flyingSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+        bool found = false;
+        forEachDirection([&](auto d) {
+            Bits over = Squares::template step<d>(at);
+            while ((over & landing_) != 0)
+                over = Squares::template step<d>(over);
+            over &= enemy_ & ~taken;
+            const Bits first = Squares::template step<d>(over) & landing_;
+            bool continued = false;
+            for (Bits land = first; land != 0; land = Squares::template step<d>(land) & landing_) {
+                found = true;
+                continued |= flyingSequences(stack, land, taken | over, level + 1);
+            }
+            for (Bits land = continued ? 0 : first; land != 0;
+                 land = Squares::template step<d>(land) & landing_)
+                complete(stack, land, taken | over, level);
+        });
+        return found;
+    }
+
+    const Bits own_;
+    const Bits enemy_;
+    const Bits kings_;
+    const Bits men_;
+    const Bits empty_;
+    Bits landing_ = 0; // empty squares, and the capturing piece's start square
+    int from_ = 0;
+    std::size_t first_ = 0; // of this listing's captures on the stack
+    int most_ = 0;          // pieces taken by the longest capture so far
+};
+
+#endif

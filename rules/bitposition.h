@@ -1,0 +1,100 @@
+// BitPosition: a position as bit sets of its pieces.
+#ifndef RULES_BITPOSITION_H
+#define RULES_BITPOSITION_H
+
+#include "rules/board.h"
+#include "rules/darksquares.h"
+
+// A move between bit positions. It fits a quarter of a cache line (12 x 12: half of one).
+template <int N>
+struct BitMove {
+    typename DarkSquares<N>::Bits taken = 0;
+    int score = 0; // as LegalMove's
+    std::uint8_t from = 0;
+    std::uint8_t to = 0;
+};
+
+// The pieces of a position; the side to move is known where the position is used.
+template <int N>
+struct BitPosition {
+    using Squares = DarkSquares<N>;
+    using Bits = typename Squares::Bits;
+
+    Bits white = 0;
+    Bits black = 0;
+    Bits kings = 0; // of both colours
+
+    BitPosition() = default;
+    // The pieces of `b`, a board for which representable() holds; marks are left out.
+    explicit BitPosition(const board &b) {
+        for (int x = 0; x < N; ++x) {
+            for (int y = x % 2; y < N; y += 2) {
+                const unsigned char code = b.squares[x][y];
+                const Bits square = Squares::square(x, y);
+                white |= (code & codeWhite) != 0 ? square : 0;
+                black |= (code & codeBlack) != 0 ? square : 0;
+                kings |= (code & codeKing) != 0 ? square : 0;
+            }
+        }
+    }
+
+    // Whether bit sets can stand for the board: men and kings on dark squares, none of them taken.
+    static bool representable(const board &b) {
+        if (b.size != N)
+            return false;
+        for (int x = 0; x < maxBoardSize; ++x) {
+            for (int y = 0; y < maxBoardSize; ++y) {
+                const int code = b.squares[x][y] & ~codeCanMove;
+                const bool piece =
+                    code == whiteMan || code == whiteKing || code == blackMan || code == blackKing;
+                const bool playable = x < N && y < N && (x + y) % 2 == 0;
+                if (b.squares[x][y] != 0 && !(piece && playable))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    // Writes the pieces into the squares of a board of this size.
+    void writeTo(board &b) const {
+        b.clear();
+        for (Bits rest = white | black; rest != 0;) {
+            const int i = takeLowest(rest);
+            const XY square = Squares::squareOf(i);
+            b.Get(square) = static_cast<unsigned char>(codeAt(i));
+        }
+    }
+
+    int codeAt(int i) const {
+        const int colour = (white >> i & 1) != 0 ? codeWhite : codeBlack;
+        return colour | ((kings >> i & 1) != 0 ? codeKing : codeMan);
+    }
+
+    Bits occupied() const { return white | black; }
+    Bits empty() const { return Squares::all & ~(white | black); }
+    template <bool White>
+    Bits side() const {
+        return White ? white : black;
+    }
+    template <bool White>
+    Bits men() const {
+        return side<White>() & ~kings;
+    }
+
+    bool operator==(const BitPosition &) const = default;
+
+    // The position after a move of the side; crowned where the piece's way ends.
+    template <bool White>
+    BitPosition after(const BitMove<N> &m) const {
+        const Bits from = Squares::bit(m.from);
+        const Bits to = Squares::bit(m.to);
+        const bool king = (kings & from) != 0 || (to & Squares::template promotionRow<White>) != 0;
+        BitPosition next;
+        next.white = White ? (white & ~from) | to : white & ~m.taken;
+        next.black = White ? black & ~m.taken : (black & ~from) | to;
+        next.kings = (kings & ~from & ~m.taken) | (king ? to : 0);
+        return next;
+    }
+};
+
+#endif

@@ -1,0 +1,272 @@
+// BitSearch: the DeepSearch of one rule set and board size, and its nodes.
+#ifndef SEARCH_BITSEARCH_H
+#define SEARCH_BITSEARCH_H
+
+#include "eval/bitanalysis.h"
+#include "eval/bitmaterial.h"
+#include "rules/bitmovegenerator.h"
+#include "rules/legalmove.h"
+#include "search/abstractengine.h"
+#include "search/bestline.h"
+#include "search/bittable.h"
+#include "search/deepsearch.h"
+#include "search/eventpump.h"
+#include "search/nodeprocedure.h"
+#include "search/thinkstatistic.h"
+
+#include <algorithm>
+
+// What all nodes of one deep search share.
+template <int N, const RuleTraits &Rules>
+struct BitContext {
+    explicit BitContext(thinkStatistic &stat)
+        : statistic(stat), material(*AbstractEngine::pSQV, AbstractEngine::isGambit),
+          table(*AbstractEngine::pHT), giveAway(stat.giveAway) {}
+
+    // Counts since the last flush; the statistics' own counters stop at the largest int.
+    struct Counts {
+        qint64 nodes = 0;
+        qint64 moves = 0;
+        qint64 scores = 0;
+        qint64 cutoffs = 0;
+        qint64 sacrifices = 0;
+        qint64 hashHits = 0;
+        int maxLevel = 0;
+    };
+
+    void flush() {
+        thinkStatistic::count(statistic.nodes, counts.nodes);
+        thinkStatistic::count(statistic.movesGenerated, counts.moves);
+        thinkStatistic::count(statistic.scoresCalculated, counts.scores);
+        thinkStatistic::count(statistic.cutoffs, counts.cutoffs);
+        thinkStatistic::count(statistic.senselessSacrifices, counts.sacrifices);
+        thinkStatistic::count(statistic.hashHits, counts.hashHits);
+        statistic.maxLevel = std::max(statistic.maxLevel, counts.maxLevel);
+        counts = {};
+    }
+
+    // As AbstractEngine::canUseHT.
+    bool probe(const BitPosition<N> &child, bool whiteToMove, int beta, int alpha, Score &value) {
+        const board *stored = table.find(child, whiteToMove);
+        if (stored == nullptr || alpha < stored->hashBeta || beta < stored->hashAlpha ||
+            stored->hashHorizon < AbstractEngine::absHorizon)
+            return false;
+        value.set(stored->hashScore >= -alpha ? Score::none : stored->hashScore,
+                  stored->hashHorizon);
+        ++counts.hashHits;
+        return true;
+    }
+
+    thinkStatistic &statistic;
+    const BitMaterial<N, Rules.flyingKings> material;
+    BitTable<N> table;
+    MoveStack<N> stack;
+    Counts counts;
+    const bool giveAway;
+};
+
+// A node without an engine: what NodeProcedure asks of a node, over a bit position. Its moves lie
+// on the context's stack while it lives; those of a quiet position are listed only when they are to
+// be searched.
+template <int N, const RuleTraits &Rules, bool White>
+class BitNode {
+    using Context = BitContext<N, Rules>;
+
+public:
+    BitNode(Context &context, const BitPosition<N> &position, int ply, int budget)
+        : context_(context), position_(position), generator_(position), ply_(ply), budget_(budget),
+          first_(context.stack.size()) {}
+    ~BitNode() { context_.stack.resize(first_); }
+    BitNode(const BitNode &) = delete;
+    BitNode &operator=(const BitNode &) = delete;
+
+    int budget() const { return budget_; }
+    void begin(int) {}
+
+    // A listing finds the moves in the state of never searched ones: their scores are none, and
+    // they are searched in reverse order.
+    bool listMoves() {
+        capture_ = generator_.canCapture();
+        if (capture_)
+            generator_.listCaptures(context_.stack);
+        // Captures beyond the limit are dropped, possibly all of them.
+        moves_ = static_cast<int>(context_.stack.size() - first_);
+        capture_ = moves_ > 0;
+        if (!capture_)
+            moves_ = generator_.countQuiet();
+        return moves_ == 0;
+    }
+
+    void count(int level) {
+        ++context_.counts.nodes;
+        context_.counts.moves += moves_;
+        context_.counts.maxLevel = std::max(context_.counts.maxLevel, level);
+        pumpEvents(nodesBetweenEvents);
+    }
+
+    int moves() const { return moves_; }
+    bool mustCapture() const { return capture_; }
+    int ply() const { return ply_; }
+    bool giveAway() const { return context_.giveAway; }
+
+    int material() { return materialScore(0, 0); }
+
+    bool staticValue(int level, int horizon, int &value) {
+        constexpr int freedomValue = AbstractEngine::freedomValue;
+        const BitAnalysis<N> analysis(position_, White);
+        typename DarkSquares<N>::Bits white = 0;
+        typename DarkSquares<N>::Bits black = 0;
+        if (analysis.canPass()) {
+            if (level < horizon + 1)
+                return false;
+            if constexpr (Rules.flyingKings) {
+                white = analysis.whitePassageMen();
+                black = analysis.blackPassageMen();
+            }
+        }
+        const int freedom = freedomValue * analysis.freedom();
+        value = materialScore(white, black) + (White ? freedom : -freedom);
+        if (giveAway())
+            value = -value;
+        return true;
+    }
+
+    void prepareMoves() {
+        if (!capture_)
+            generator_.listQuiet(context_.stack);
+    }
+
+    void enter(int i, int childBudget) {
+        child_ = position_.template after<White>(move(i));
+        childBudget_ = childBudget;
+    }
+    int score(int) const { return Score::none; }
+    void setScore(int i, int score) { move(i).score = score; }
+
+    bool probe(int, int beta, int alpha, Score &value) {
+        return context_.probe(child_, !White, beta, alpha, value);
+    }
+
+    void search(int, int level, Score &value, const Score &alpha, const Score &beta,
+                BestLine &line) {
+        using Child = BitNode<N, Rules, !White>;
+        Child child(context_, child_, ply_ + 1, childBudget_);
+        NodeProcedure<Child>(child, level).run(value, alpha, beta, line);
+    }
+
+    void leave(int, int) {}
+
+    void updateLine(BestLine &line, int i, int level) const {
+        const BitMove<N> &m = context_.stack[first_ + static_cast<unsigned>(i)];
+        line.updateAt(DarkSquares<N>::squareOf(m.from), DarkSquares<N>::squareOf(m.to), m.score,
+                      level);
+    }
+
+    void countCutoff() { ++context_.counts.cutoffs; }
+    void countSacrifice() { ++context_.counts.sacrifices; }
+
+    void record(const Score &value, int alpha0, const Score &beta, bool insert) {
+        if (insert)
+            context_.table.insert(position_, White, ply_, value.value, alpha0, beta.value);
+    }
+
+    void addChoiceBonus(Score &result) const {
+        int good = 0;
+        for (std::size_t i = first_; i < context_.stack.size(); ++i)
+            good += isGoodMove(context_.stack[i].score, result);
+        result += severalMovesBonus(result, moves_, good);
+    }
+
+    void trace(int, const Score &) const {}
+
+private:
+    using Bits = typename DarkSquares<N>::Bits;
+
+    BitMove<N> &move(int i) { return context_.stack[first_ + static_cast<unsigned>(i)]; }
+
+    int materialScore(Bits whitePassage, Bits blackPassage) {
+        ++context_.counts.scores;
+        const int balance = context_.material.balance(position_, whitePassage, blackPassage);
+        return (White ? balance : -balance) + randomTerm(context_.statistic);
+    }
+
+    Context &context_;
+    const BitPosition<N> &position_;
+    BitMoveGenerator<N, Rules, White> generator_;
+    const int ply_;
+    const int budget_;
+    const std::size_t first_; // of this node's moves on the stack
+    int moves_ = 0;
+    bool capture_ = false;
+    BitPosition<N> child_;
+    int childBudget_ = 0;
+};
+
+template <int N, const RuleTraits &Rules>
+class BitSearch final : public DeepSearch {
+public:
+    explicit BitSearch(thinkStatistic &statistic) : context_(statistic) {}
+
+    void enter(const board &parent, const LegalMove &m) override {
+        const BitPosition<N> before(parent);
+        BitMove<N> move;
+        move.from = static_cast<std::uint8_t>(Squares::index(m.from().x, m.from().y));
+        move.to = static_cast<std::uint8_t>(Squares::index(m.to().x, m.to().y));
+        for (const XY &square : m.taken)
+            move.taken |= Squares::square(square.x, square.y);
+        whiteToMove_ = !parent.whiteToMove;
+        ply_ = parent.plyCount + 1;
+        child_ = parent.whiteToMove ? before.template after<true>(move)
+                                    : before.template after<false>(move);
+    }
+
+    bool probe(int beta, int alpha, Score &value) override {
+        const bool found = context_.probe(child_, whiteToMove_, beta, alpha, value);
+        context_.flush();
+        return found;
+    }
+
+    void search(int level, int depth, Score &value, Score alpha, Score beta,
+                BestLine &line) override {
+        if (whiteToMove_)
+            run<true>(level, depth, value, alpha, beta, line);
+        else
+            run<false>(level, depth, value, alpha, beta, line);
+        context_.flush();
+    }
+
+    void noteStored(const board &b) override { context_.table.note(BitPosition<N>(b)); }
+
+private:
+    using Squares = DarkSquares<N>;
+
+    template <bool White>
+    void run(int level, int depth, Score &value, Score alpha, Score beta, BestLine &line) {
+        using Node = BitNode<N, Rules, White>;
+        const BitPosition<N> position = child_;
+        Node node(context_, position, ply_, depth);
+        NodeProcedure<Node>(node, level).run(value, alpha, beta, line);
+    }
+
+    BitContext<N, Rules> context_;
+    BitPosition<N> child_;
+    bool whiteToMove_ = true;
+    int ply_ = 0;
+};
+
+// The BitSearch of the rule set for boards of N x N squares, compiled once a size.
+template <int N>
+std::unique_ptr<DeepSearch> makeBitSearch(const RuleTraits &rules, thinkStatistic &statistic) {
+    if (&rules == &americanRules)
+        return std::make_unique<BitSearch<N, americanRules>>(statistic);
+    if (&rules == &polishRules)
+        return std::make_unique<BitSearch<N, polishRules>>(statistic);
+    return std::make_unique<BitSearch<N, internationalRules>>(statistic);
+}
+
+extern template std::unique_ptr<DeepSearch> makeBitSearch<6>(const RuleTraits &, thinkStatistic &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, thinkStatistic &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<10>(const RuleTraits &, thinkStatistic &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, thinkStatistic &);
+
+#endif

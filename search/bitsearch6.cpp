@@ -1,0 +1,3 @@
+#include "search/bitsearch.h"
+
+template std::unique_ptr<DeepSearch> makeBitSearch<6>(const RuleTraits &, thinkStatistic &);

@@ -1,0 +1,69 @@
+#include "search/deepsearch.h"
+
+#include "eval/squaresvalue.h"
+#include "rules/amengine.h"
+#include "search/bitsearch.h"
+
+#include <typeinfo>
+
+namespace {
+
+bool enabled = true;
+DeepSearch *runningSearch = nullptr;
+
+// The rules that the engine's class stands for, null for a class of one's own.
+const RuleTraits *rulesOf(const AbstractEngine &engine) {
+    if (typeid(engine) == typeid(IntEngine))
+        return &internationalRules;
+    if (typeid(engine) == typeid(PolEngine))
+        return &polishRules;
+    if (typeid(engine) == typeid(AmEngine))
+        return &americanRules;
+    return nullptr;
+}
+
+template <int N>
+std::unique_ptr<DeepSearch> makeFor(const AbstractEngine &root, const RuleTraits &rules) {
+    if (!BitPosition<N>::representable(*root.board))
+        return nullptr;
+    return makeBitSearch<N>(rules, *root.statistic);
+}
+
+} // namespace
+
+std::unique_ptr<DeepSearch> DeepSearch::make(const AbstractEngine &root) {
+    const RuleTraits *rules = rulesOf(root);
+    const bool oneSize = root.board->size == root.size && XY::B_SIZE == root.size &&
+                         AbstractEngine::pSQV != nullptr && AbstractEngine::pSQV->size == root.size;
+    if (!enabled || rules == nullptr || !oneSize)
+        return nullptr;
+    switch (root.size) {
+    case 6:
+        return makeFor<6>(root, *rules);
+    case 8:
+        return makeFor<8>(root, *rules);
+    case 10:
+        return makeFor<10>(root, *rules);
+    case 12:
+        return makeFor<12>(root, *rules);
+    default:
+        return nullptr;
+    }
+}
+
+void DeepSearch::enable(bool on) {
+    enabled = on;
+}
+
+DeepSearch *DeepSearch::running() {
+    return runningSearch;
+}
+
+DeepSearchScope::DeepSearchScope(const AbstractEngine &root)
+    : mine_(DeepSearch::make(root)), outer_(runningSearch) {
+    runningSearch = mine_.get();
+}
+
+DeepSearchScope::~DeepSearchScope() {
+    runningSearch = outer_;
+}

@@ -1,0 +1,53 @@
+// One search of the bench: its task, and everything that it must reproduce.
+#ifndef TOOLS_BENCH_BENCHRUN_H
+#define TOOLS_BENCH_BENCHRUN_H
+
+#include "rules/board.h"
+#include "rules/ruleset.h"
+#include "search/thinkstatistic.h"
+
+#include <QList>
+#include <QString>
+
+struct BenchTask {
+    QString name;
+    RuleSet rules = RuleSet::International;
+    bool giveAway = false;
+    board position;
+};
+
+struct BenchResult {
+    QString move; // the notation; empty when there is no legal move
+    int score = 0;
+    QString line; // the principal variation, one move a line
+    thinkStatistic statistic;
+    qint64 microseconds = 0;
+};
+
+// Reads tasks, one a line: name, rules, "normal" or "giveaway", then the position line; '#' starts
+// a comment. Stops at the first bad line, with its number and fault in `error`.
+QList<BenchTask> readTasks(const QString &text, QString &error);
+
+// The fixed positions of the bench: every rule set and size with an opening, a middle game and a
+// king ending, some played give-away.
+QString builtInTasks();
+
+// Searches the task to a fixed depth in plies without the random term. `straightforward` searches
+// every node over engines and boards instead of bit sets; the result is the same.
+BenchResult runTask(const BenchTask &task, int depth, bool straightforward);
+
+// A running hash (FNV-1a) over all that a search reports but its time.
+class Signature {
+public:
+    void add(const BenchResult &result);
+    QString text() const;
+
+private:
+    void addText(const QString &text);
+    void addNumber(int number);
+    void addByte(unsigned char byte);
+
+    quint64 hash_ = 0xcbf29ce484222325U;
+};
+
+#endif
