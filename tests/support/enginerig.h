@@ -1,0 +1,61 @@
+// EngineRig: a position with all that an engine needs around it.
+#ifndef TESTS_SUPPORT_ENGINERIG_H
+#define TESTS_SUPPORT_ENGINERIG_H
+
+#include "eval/squaresvalue.h"
+#include "rules/intengine.h"
+#include "search/bestline.h"
+#include "search/hashtable.h"
+#include "search/thinkstatistic.h"
+#include "tests/support/drawnboard.h"
+#include "tests/support/recordinghost.h"
+
+#include <string>
+
+// Noise 1, so that values are reproducible; the engine's statics are as at program start, the
+// square values are the normal game's.
+struct EngineRig {
+    RecordingHost host;
+    board position;
+    thinkStatistic statistic;
+    SquaresValue values;
+    hashTable table{10003};
+    std::unique_ptr<IntEngine> engine;
+    Score score{0, 0};
+    BestLine line;
+
+    EngineRig(Rules rules, const board &b) : position(b), values(b.size, false) {
+        XY::B_SIZE = b.size;
+        statistic.scoreNoise = 1;
+        AbstractEngine::breakThinking = false;
+        AbstractEngine::isGambit = false;
+        AbstractEngine::eventLoop = 0;
+        AbstractEngine::absHorizon = -1;
+        AbstractEngine::setSQV(&values);
+        AbstractEngine::setHashTable(&table);
+        engine = makeEngine(rules, &position, &statistic);
+    }
+    EngineRig(Rules rules, const std::string &picture) : EngineRig(rules, drawn(picture)) {}
+    ~EngineRig() {
+        AbstractEngine::setSQV(nullptr);
+        AbstractEngine::setHashTable(nullptr);
+    }
+
+    // The legal moves as text.
+    std::string list() {
+        engine->FillMoveList();
+        return moveText(engine->moveList);
+    }
+    // Searches; the chosen move as text, "none" without one.
+    std::string search() {
+        const LegalMove *m = engine->getBestMove(score, line);
+        return m == nullptr ? "none" : moveText(*m);
+    }
+    std::string lineText() const {
+        QString text;
+        line.asString(text);
+        return text.toStdString();
+    }
+};
+
+#endif
