@@ -6,6 +6,8 @@
 #include "view/drcanvas.h"
 
 #include <QPainter>
+#include <QPainterPath>
+#include <QPainterPathStroker>
 
 namespace {
 
@@ -16,6 +18,20 @@ constexpr int stepsPerSquare = 5; // animation steps along one square's diagonal
 // What is left of `whole` without so many pixels on either side.
 QRect inset(const QRect &whole, int dx, int dy) {
     return whole.adjusted(dx, dy, -dx, -dy);
+}
+
+// The painter's own ellipses and wide lines are not symmetric to the pixel without antialiasing;
+// filled paths are, at every scale.
+void drawDisc(QPainter &p, const QRect &box) {
+    QPainterPath disc;
+    disc.addEllipse(box);
+    p.drawPath(disc);
+}
+
+void drawLine(QPainter &p, const QPoint &from, const QPoint &to) {
+    QPainterPath line(from);
+    line.lineTo(to);
+    p.fillPath(QPainterPathStroker(p.pen()).createStroke(line), p.pen().brush());
 }
 
 } // namespace
@@ -130,24 +146,22 @@ void DrCanvasPiece::draw(QPainter &p) {
     const QRect square = boundingRect();
     p.setPen(Qt::NoPen);
     p.setBrush((type & codeWhite) != 0 ? Qt::white : Qt::black);
-    p.drawEllipse(inset(square, w / 7, h / 7));
+    drawDisc(p, inset(square, w / 7, h / 7));
     if ((type & codeKing) != 0) {
         p.setBrush(Qt::red);
-        p.drawEllipse(inset(square, w / 3, h / 3));
+        drawDisc(p, inset(square, w / 3, h / 3));
     }
     if ((type & codeTaken) != 0)
-        drawCross(p, square.x(), square.y());
+        drawCross(p, square);
     p.setPen(savedPen);
 }
 
-void DrCanvasPiece::drawCross(QPainter &p, int left, int top) const {
-    const int x1 = left + w / 3;
-    const int x2 = left + w - w / 3;
-    const int y1 = top + h / 3;
-    const int y2 = top + h - h / 3;
+void DrCanvasPiece::drawCross(QPainter &p, const QRect &square) const {
+    const QRect box = inset(square, w / 3, h / 3);
+    const QPoint beyond(box.right() + 1, box.bottom() + 1);
     p.setPen(QPen(Qt::green, w / 5, Qt::SolidLine, Qt::FlatCap));
-    p.drawLine(x1, y1, x2, y2);
-    p.drawLine(x1, y2, x2, y1);
+    drawLine(p, box.topLeft(), beyond);
+    drawLine(p, {box.left(), beyond.y()}, {beyond.x(), box.top()});
 }
 
 QRect DrCanvasPiece::boundingRect() const {

@@ -59,7 +59,7 @@ public:
 private:
     DrCanvas *boardCanvas() const;
     void endLeg();
-    void drawCross(QPainter &p, int left, int top) const;
+    void drawCross(QPainter &p, const QRect &square) const;
 
     int bx = 0;
     int by = 0;
