@@ -6,11 +6,32 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
+
+bool sameCapture(const LegalMove &a, const LegalMove &b) {
+    return a.from() == b.from() && a.to() == b.to() && a.taken.size() == b.taken.size() &&
+           std::is_permutation(a.taken.begin(), a.taken.end(), b.taken.begin());
+}
+
+// The known figures count captures that take the same pieces by different routes once.
+void dropOtherRoutes(QValueList<LegalMove> &list) {
+    if (list.count() < 2 || list.last().taken.size() < 3)
+        return;
+    QValueList<LegalMove> kept;
+    for (const LegalMove &m : list) {
+        if (std::none_of(kept.begin(), kept.end(),
+                         [&m](const LegalMove &other) { return sameCapture(m, other); }))
+            kept.append(m);
+    }
+    list = kept;
+}
 
 // Positions after `depth` plies; the last ply is counted without playing it.
 long long countTree(AbstractEngine &engine, int depth) {
     engine.FillMoveList();
+    dropOtherRoutes(engine.moveList);
     if (depth == 1)
         return engine.moveList.count();
     long long sum = 0;
