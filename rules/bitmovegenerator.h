@@ -4,9 +4,9 @@
 
 #include "rules/bitposition.h"
 #include "rules/capturelimit.h"
+#include "rules/movestack.h"
 
-#include <array>
-#include <vector>
+#include <type_traits>
 
 // In what the rule sets differ. A generator is made for one of these and one size.
 struct RuleTraits {
@@ -23,16 +23,13 @@ inline constexpr RuleTraits polishRules{true, true, false, "IntEngine::genCapMan
 inline constexpr RuleTraits americanRules{false, false, false, "AmEngine::genCapManMove",
                                           "AmEngine::genCapKingMove"};
 
-// Lists of many nodes, one above the other; memory is kept for the next search.
-template <int N>
-using MoveStack = std::vector<BitMove<N>>;
-
 // Lists and counts the moves of one side of one position. The position is not changed; moves go on
 // top of a stack that the caller keeps.
 template <int N, const RuleTraits &Rules, bool White>
 class BitMoveGenerator {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Stack = MoveStack<BitMove<N>>;
 
 public:
     explicit BitMoveGenerator(const BitPosition<N> &p)
@@ -61,7 +58,7 @@ public:
 
     // Appends the non-capturing moves: by piece in square order; a man's left target first, a
     // king's directions in their order and outwards.
-    void listQuiet(MoveStack<N> &stack) const {
+    void listQuiet(Stack &stack) const {
         constexpr int toLeft = White ? Squares::half : Squares::half + 1;
         constexpr int toRight = White ? Squares::half + 1 : Squares::half;
         const Bits leftTargets = left() & empty_;
@@ -80,7 +77,7 @@ public:
     }
 
     // Appends the legal captures in the order of generation.
-    void listCaptures(MoveStack<N> &stack) {
+    void listCaptures(Stack &stack) {
         first_ = stack.size();
         most_ = 0;
         const Bits capturingMen = manCapturers();
@@ -150,12 +147,12 @@ private:
         return found & kings_;
     }
 
-    static void append(MoveStack<N> &stack, int from, int to, Bits taken) {
-        stack.push_back({taken, 0, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)});
+    static void append(Stack &stack, int from, int to, Bits taken) {
+        stack.append({taken, 0, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to)});
     }
 
     template <int d>
-    void listRay(MoveStack<N> &stack, int from) const {
+    void listRay(Stack &stack, int from) const {
         Bits target = Squares::template step<d>(Squares::bit(from)) & empty_;
         while (target != 0) {
             append(stack, from, lowestBit(target), 0);
@@ -163,17 +160,17 @@ private:
         }
     }
 
-    void listKing(MoveStack<N> &stack, int from) const {
+    void listKing(Stack &stack, int from) const {
         forEachDirection([&](auto d) { listRay<d>(stack, from); });
     }
 
     // A sequence is complete: keeps it unless longer ones are known; a longer one drops the others.
-    void complete(MoveStack<N> &stack, Bits to, Bits taken, int jumps) {
+    void complete(Stack &stack, Bits to, Bits taken, int jumps) {
         if constexpr (Rules.maximumCapture) {
             if (jumps < most_)
                 return;
             if (jumps > most_)
-                stack.resize(first_);
+                stack.cut(first_);
             most_ = jumps;
         }
         append(stack, from_, lowestBit(to), taken);
@@ -182,7 +179,7 @@ private:
     // Depth-first over the jumps of a short-stepping piece that stands on `at`, jump number `level`
     // coming next. Jumped pieces stay and block until the move is over.
     template <bool AllDirections, class Continue>
-    bool shortJumps(MoveStack<N> &stack, Bits at, Bits taken, int level, Continue next) {
+    bool shortJumps(Stack &stack, Bits at, Bits taken, int level, Continue next) {
         bool found = false;
         forEachDirection([&](auto d) {
             if constexpr (AllDirections || isForward(d)) {
@@ -199,7 +196,7 @@ private:
         return found;
     }
 
-    void manSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+    void manSequences(Stack &stack, Bits at, Bits taken, int level) {
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.manCapture);
             return;
@@ -209,7 +206,7 @@ private:
         });
     }
 
-    void shortKingSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+    void shortKingSequences(Stack &stack, Bits at, Bits taken, int level) {
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.kingCapture);
             return;
@@ -221,7 +218,7 @@ private:
 
     // A flying king may land on any free square behind the piece it jumps; squares from which it
     // can go on exclude the others.
-    bool flyingSequences(MoveStack<N> &stack, Bits at, Bits taken, int level) {
+    bool flyingSequences(Stack &stack, Bits at, Bits taken, int level) {
         bool found = false;
         forEachDirection([&](auto d) {
             Bits over = Squares::template step<d>(at);

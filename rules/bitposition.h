@@ -8,10 +8,10 @@
 // A move between bit positions. It fits a quarter of a cache line (12 x 12: half of one).
 template <int N>
 struct BitMove {
-    typename DarkSquares<N>::Bits taken = 0;
-    int score = 0; // as LegalMove's
-    std::uint8_t from = 0;
-    std::uint8_t to = 0;
+    typename DarkSquares<N>::Bits taken;
+    int score; // as LegalMove's
+    std::uint8_t from;
+    std::uint8_t to;
 };
 
 // The pieces of a position; the side to move is known where the position is used.
@@ -66,8 +66,8 @@ struct BitPosition {
     }
 
     int codeAt(int i) const {
-        const int colour = (white >> i & 1) != 0 ? codeWhite : codeBlack;
-        return colour | ((kings >> i & 1) != 0 ? codeKing : codeMan);
+        static_assert(whiteMan == 5 && whiteKing == 6 && blackMan == 9 && blackKing == 10);
+        return whiteMan + 4 * static_cast<int>(black >> i & 1) + static_cast<int>(kings >> i & 1);
     }
 
     Bits occupied() const { return white | black; }
@@ -83,6 +83,29 @@ struct BitPosition {
 
     bool operator==(const BitPosition &) const = default;
 
+    // The position's key, as board::HKey() computes it over all 144 squares of the largest board.
+    // There each square shifts the key by one bit, the bit that leaves the lower 31 coming back at
+    // the lower end: an empty square just rotates those 31 bits (the top bit only mirrors the
+    // lowest). So only the pieces need be visited. A man's lowest bit meets the one that came back
+    // as a carry.
+    unsigned int key(bool whiteToMove) const {
+        constexpr int lastSquare = maxBoardSize * maxBoardSize - 1;
+        std::uint32_t low = whiteToMove ? 1 : 0;
+        int square = -1;
+        for (Bits rest = white | black; rest != 0;) {
+            const int i = takeLowest(rest);
+            const int at = Squares::sequence[static_cast<unsigned>(i)];
+            low = rotate31(low, at - square);
+            square = at;
+            const auto code = static_cast<std::uint32_t>(codeAt(i));
+            if (at == lastSquare)
+                return withTopBit(low, code);
+            low = ((low ^ code) + ((low & code & 1) << 1)) & mask31;
+        }
+        low = rotate31(low, lastSquare - square);
+        return low | low << 31;
+    }
+
     // The position after a move of the side; crowned where the piece's way ends.
     template <bool White>
     BitPosition after(const BitMove<N> &m) const {
@@ -94,6 +117,21 @@ struct BitPosition {
         next.black = White ? black & ~m.taken : (black & ~from) | to;
         next.kings = (kings & ~from & ~m.taken) | (king ? to : 0);
         return next;
+    }
+
+private:
+    static constexpr std::uint32_t mask31 = 0x7fffffff;
+
+    static std::uint32_t rotate31(std::uint32_t low, int by) {
+        while (by > 31)
+            by -= 31;
+        const std::uint64_t shifted = std::uint64_t{low} << by;
+        return static_cast<std::uint32_t>((shifted & mask31) | shifted >> 31);
+    }
+    // The step over an occupied last square, in full: nothing mirrors the top bit after it.
+    static std::uint32_t withTopBit(std::uint32_t low, std::uint32_t code) {
+        const std::uint32_t carry = low & 1;
+        return (((low & ~1U) ^ code) | carry << 31) + carry;
     }
 };
 

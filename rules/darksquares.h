@@ -138,6 +138,17 @@ struct DarkSquares {
     template <int d>
     static constexpr Bits rim = all & ~step<oppositeDirection(d)>(all);
 
+    // The place of each square in the board's table of 12 x 12.
+    static constexpr std::array<std::uint8_t, bitCount> sequence = [] {
+        std::array<std::uint8_t, bitCount> table{};
+        for (int x = 0; x < N; ++x) {
+            for (int y = x % 2; y < N; y += 2)
+                table[static_cast<unsigned>(index(x, y))] =
+                    static_cast<std::uint8_t>(maxBoardSize * x + y);
+        }
+        return table;
+    }();
+
     static constexpr XY squareOf(int i) { return coordinates[static_cast<unsigned>(i)]; }
 
     static constexpr std::array<XY, bitCount> coordinates = [] {

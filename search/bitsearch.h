@@ -7,7 +7,7 @@
 #include "rules/bitmovegenerator.h"
 #include "rules/legalmove.h"
 #include "search/abstractengine.h"
-#include "search/bestline.h"
+#include "search/bitline.h"
 #include "search/bittable.h"
 #include "search/deepsearch.h"
 #include "search/eventpump.h"
@@ -60,7 +60,7 @@ struct BitContext {
     thinkStatistic &statistic;
     const BitMaterial<N, Rules.flyingKings> material;
     BitTable<N> table;
-    MoveStack<N> stack;
+    MoveStack<BitMove<N>> stack;
     Counts counts;
     const bool giveAway;
 };
@@ -73,10 +73,12 @@ class BitNode {
     using Context = BitContext<N, Rules>;
 
 public:
+    using Line = BitLine<N>;
+
     BitNode(Context &context, const BitPosition<N> &position, int ply, int budget)
         : context_(context), position_(position), generator_(position), ply_(ply), budget_(budget),
           first_(context.stack.size()) {}
-    ~BitNode() { context_.stack.resize(first_); }
+    ~BitNode() { context_.stack.cut(first_); }
     BitNode(const BitNode &) = delete;
     BitNode &operator=(const BitNode &) = delete;
 
@@ -147,8 +149,7 @@ public:
         return context_.probe(child_, !White, beta, alpha, value);
     }
 
-    void search(int, int level, Score &value, const Score &alpha, const Score &beta,
-                BestLine &line) {
+    void search(int, int level, Score &value, const Score &alpha, const Score &beta, Line &line) {
         using Child = BitNode<N, Rules, !White>;
         Child child(context_, child_, ply_ + 1, childBudget_);
         NodeProcedure<Child>(child, level).run(value, alpha, beta, line);
@@ -156,10 +157,8 @@ public:
 
     void leave(int, int) {}
 
-    void updateLine(BestLine &line, int i, int level) const {
-        const BitMove<N> &m = context_.stack[first_ + static_cast<unsigned>(i)];
-        line.updateAt(DarkSquares<N>::squareOf(m.from), DarkSquares<N>::squareOf(m.to), m.score,
-                      level);
+    void updateLine(Line &line, int i, int level) {
+        line.updateAt(move(i).from, move(i).to, move(i).score, level);
     }
 
     void countCutoff() { ++context_.counts.cutoffs; }
@@ -209,7 +208,7 @@ public:
 
     void enter(const board &parent, const LegalMove &m) override {
         const BitPosition<N> before(parent);
-        BitMove<N> move;
+        BitMove<N> move{};
         move.from = static_cast<std::uint8_t>(Squares::index(m.from().x, m.from().y));
         move.to = static_cast<std::uint8_t>(Squares::index(m.to().x, m.to().y));
         for (const XY &square : m.taken)
@@ -235,7 +234,7 @@ public:
         context_.flush();
     }
 
-    void noteStored(const board &b) override { context_.table.note(BitPosition<N>(b)); }
+    void noteStored(const board &b) override { context_.table.note(b); }
 
 private:
     using Squares = DarkSquares<N>;
@@ -245,7 +244,9 @@ private:
         using Node = BitNode<N, Rules, White>;
         const BitPosition<N> position = child_;
         Node node(context_, position, ply_, depth);
-        NodeProcedure<Node>(node, level).run(value, alpha, beta, line);
+        BitLine<N> below;
+        NodeProcedure<Node>(node, level).run(value, alpha, beta, below);
+        below.writeTo(line, level);
     }
 
     BitContext<N, Rules> context_;

@@ -8,46 +8,108 @@
 
 #include <vector>
 
-// A view of the search's hash table. Almost all positions asked for are not in the table; a filter
-// of the stored ones (one bit for each value of a hash over the pieces, side to move left out as
-// the table's own comparison does) answers for most of these at once.
+// A view of the search's hash table, empty at first as the table is. Which positions are stored, and
+// which are found, is the table's business: its key and its probe limit decide it. The key is costly
+// to compute, but seldom needed. An index of the stored positions by a hash of their bit sets (open
+// addressing with linear probing) tells whether a position is stored with the same side to move, in
+// which case the table would find it, and whether the same pieces are stored with the other side to
+// move. Only then, since the table does not compare the side but its key depends on it, must the
+// table's own path be followed.
 template <int N>
 class BitTable {
 public:
-    explicit BitTable(hashTable &table) : table_(table), stored_(filterSize), scratch_(N) {}
+    explicit BitTable(hashTable &table)
+        : table_(table), index_(indexSizeFor(table.size)),
+          pieces_(static_cast<std::size_t>(table.size)), scratch_(N) {}
 
-    // The stored record of the position, null when it is not stored.
+    // The stored record of the position, null when the table would not find it.
     const board *find(const BitPosition<N> &p, bool whiteToMove) {
-        if (!maybeStored(p))
-            return nullptr;
+        const Entry entry = lookUp(p, whiteToMove);
+        if (!entry.otherSide)
+            return entry.slot < 0 ? nullptr : &table_.Tboards[entry.slot];
         unsigned int slot = 0;
-        write(p, whiteToMove);
-        if (table_.find(&scratch_, slot) != 1)
-            return nullptr;
-        return table_.getBoard(static_cast<int>(slot));
+        return follow(p, whiteToMove, false, slot) && !table_.Tempty[slot] ? &table_.Tboards[slot]
+                                                                           : nullptr;
     }
 
-    // Stores the position with its record, where there is room.
+    // Stores the position with its record, unless it is stored already or has no room. A record
+    // that is there was made in this iteration, at the same horizon, and stays.
     void insert(const BitPosition<N> &p, bool whiteToMove, int ply, int value, int alpha0,
                 int beta) {
         if (table_.count == table_.size)
             return;
-        write(p, whiteToMove);
+        const Entry entry = lookUp(p, whiteToMove);
+        if (entry.slot >= 0 && !entry.otherSide)
+            return;
+        unsigned int slot = 0;
+        if (!follow(p, whiteToMove, !entry.otherSide, slot) || !table_.Tempty[slot])
+            return;
+        p.writeTo(scratch_);
+        scratch_.whiteToMove = whiteToMove;
         scratch_.plyCount = ply;
         scratch_.hashScore = value;
         scratch_.hashHorizon = AbstractEngine::absHorizon;
         scratch_.hashAlpha = alpha0;
         scratch_.hashBeta = beta;
-        if (table_.insert(&scratch_) == 1)
-            note(p);
+        table_.place(slot, &scratch_);
+        note(p, whiteToMove, slot);
     }
 
-    void note(const BitPosition<N> &p) { stored_[hash(p)] = true; }
+    // Takes note that a position was stored by other means than insert().
+    void note(const board &b) {
+        unsigned int slot = 0;
+        if (table_.find(&b, slot) == 1)
+            note(BitPosition<N>(b), b.whiteToMove, slot);
+    }
 
 private:
-    static constexpr std::size_t filterSize = std::size_t{1} << 18;
+    // What the index knows of a position.
+    struct Entry {
+        int slot = -1;          // where it is stored, -1 when it is not
+        bool otherSide = false; // its pieces are stored with the other side to move
+    };
 
-    bool maybeStored(const BitPosition<N> &p) const { return stored_[hash(p)]; }
+    static std::size_t indexSizeFor(int entries) {
+        return std::bit_ceil(static_cast<std::size_t>(entries) * 2);
+    }
+
+    // Index values: 0 where free, else twice the slot's number counted from 1, plus 1 for white.
+    static int indexValue(unsigned int slot, bool whiteToMove) {
+        return static_cast<int>(2 * (slot + 1)) + (whiteToMove ? 1 : 0);
+    }
+
+    void note(const BitPosition<N> &p, bool whiteToMove, unsigned int slot) {
+        pieces_[slot] = p;
+        std::size_t i = home(p);
+        while (index_[i] != 0)
+            i = next(i);
+        index_[i] = indexValue(slot, whiteToMove);
+    }
+
+    Entry lookUp(const BitPosition<N> &p, bool whiteToMove) const {
+        Entry entry;
+        for (std::size_t i = home(p); index_[i] != 0; i = next(i)) {
+            const int slot = index_[i] / 2 - 1;
+            if (!(pieces_[static_cast<unsigned>(slot)] == p))
+                continue;
+            if ((index_[i] % 2 != 0) == whiteToMove)
+                entry.slot = slot;
+            else
+                entry.otherSide = true;
+        }
+        return entry;
+    }
+
+    std::size_t home(const BitPosition<N> &p) const { return hash(p) & (index_.size() - 1); }
+    std::size_t next(std::size_t i) const { return (i + 1) & (index_.size() - 1); }
+
+    // Follows the table's probe path to the first slot that is free or, unless the position `isNew`
+    // to the table, holds its pieces. False when there is none within the limit.
+    bool follow(const BitPosition<N> &p, bool whiteToMove, bool isNew, unsigned int &slot) const {
+        const unsigned int first = p.key(whiteToMove) % static_cast<unsigned int>(table_.size);
+        return table_.probe(
+            first, [&](unsigned int at) { return !isNew && pieces_[at] == p; }, slot);
+    }
 
     static std::uint64_t fold(std::uint64_t set) { return set; }
     static std::uint64_t fold(DoubleWord set) {
@@ -58,16 +120,12 @@ private:
         const std::uint64_t mixed = fold(p.white) * 0xbf58476d1ce4e5b9U ^
                                     fold(p.black) * 0x94d049bb133111ebU ^
                                     fold(p.kings) * 0xd6e8feb86659fd93U;
-        return (mixed * 0x9e3779b97f4a7c15U) >> 46;
-    }
-
-    void write(const BitPosition<N> &p, bool whiteToMove) {
-        p.writeTo(scratch_);
-        scratch_.whiteToMove = whiteToMove;
+        return mixed * 0x9e3779b97f4a7c15U >> 32;
     }
 
     hashTable &table_;
-    std::vector<bool> stored_;
+    std::vector<int> index_;             // see indexValue()
+    std::vector<BitPosition<N>> pieces_; // by slot
     board scratch_;
 };
 

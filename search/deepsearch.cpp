@@ -35,7 +35,8 @@ std::unique_ptr<DeepSearch> DeepSearch::make(const AbstractEngine &root) {
     const RuleTraits *rules = rulesOf(root);
     const bool oneSize = root.board->size == root.size && XY::B_SIZE == root.size &&
                          AbstractEngine::pSQV != nullptr && AbstractEngine::pSQV->size == root.size;
-    if (!enabled || rules == nullptr || !oneSize)
+    const bool table = AbstractEngine::pHT != nullptr && AbstractEngine::pHT->usable();
+    if (!enabled || rules == nullptr || !oneSize || !table)
         return nullptr;
     switch (root.size) {
     case 6:

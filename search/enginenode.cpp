@@ -2,7 +2,6 @@
 
 #include "eval/heuristic.h"
 #include "platform/host.h"
-#include "search/bestline.h"
 #include "search/deepsearch.h"
 #include "search/eventpump.h"
 #include "search/hashtable.h"

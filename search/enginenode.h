@@ -3,6 +3,7 @@
 #define SEARCH_ENGINENODE_H
 
 #include "search/abstractengine.h"
+#include "search/bestline.h"
 
 class DeepSearch;
 
@@ -14,6 +15,7 @@ public:
     EngineNode(AbstractEngine &engine, bool trace) : engine_(engine), trace_(trace) {}
 
     // What NodeProcedure asks of a node.
+    using Line = BestLine;
     int budget() const { return engine_.depth; }
     void begin(int level);
     bool listMoves();

@@ -13,9 +13,6 @@
 
 namespace {
 
-// A look-up compares at most one slot more than this.
-constexpr int probeLimit = 10;
-
 constexpr char indexLineMark[] = "//idx,score";
 
 template <class T>
@@ -74,26 +71,18 @@ bool hashTable::areEqual(const board *a, const board *b) {
 
 int hashTable::find(const board *b, unsigned int &idx) const {
     idx = 0;
-    if (!usable())
+    const auto isSame = [&](unsigned int slot) { return areEqual(b, &Tboards[slot]); };
+    if (!usable() || !probe(HKey(b), isSame, idx))
         return -1;
-    unsigned int slot = HKey(b);
-    unsigned int step = 1;
-    for (int tries = 0; tries <= probeLimit; ++tries) {
-        if (Tempty[slot] || areEqual(b, &Tboards[slot])) {
-            idx = slot;
-            return Tempty[slot] ? 0 : 1;
-        }
-        slot = (slot + step) % static_cast<unsigned int>(size);
-        step += 2;
-    }
-    return -1;
+    return Tempty[idx] ? 0 : 1;
 }
 
-void hashTable::occupy(unsigned int idx, const board *b) {
+void hashTable::place(unsigned int idx, const board *b) {
     if (Tempty[idx])
         ++count;
     Tempty[idx] = false;
     Tscore[idx] = b->hashScore;
+    Tboards[idx] = *b;
 }
 
 int hashTable::insert(const board *b) {
@@ -101,10 +90,13 @@ int hashTable::insert(const board *b) {
     const int found = find(b, idx);
     if (found == -1 || (found == 1 && b->hashHorizon <= Tboards[idx].hashHorizon))
         return 0;
-    occupy(idx, b);
-    if (found == 0)
-        Tboards[idx] = *b;
+    if (found == 0) {
+        place(idx, b);
+        return 1;
+    }
+    // The stored position stays; its record is replaced.
     board &stored = Tboards[idx];
+    Tscore[idx] = b->hashScore;
     stored.hashScore = b->hashScore;
     stored.hashHorizon = b->hashHorizon;
     stored.hashAlpha = b->hashAlpha;
@@ -115,8 +107,7 @@ int hashTable::insert(const board *b) {
 int hashTable::insert(const board *b, unsigned int idx) {
     if (!usable() || b->hashAlpha == b->hashBeta)
         return 0;
-    occupy(idx, b);
-    Tboards[idx] = *b;
+    place(idx, b);
     return 1;
 }
 

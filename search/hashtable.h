@@ -59,9 +59,29 @@ public:
     // no search fits into, so they can be looked up but never answer a search. Always 0.
     int fromStream(QTextStream &ts, int n);
 
-private:
+    // Follows the probe path from `slot` to the first slot that is free or for which `wanted` holds:
+    // true and that slot; false and 0 when there is none within the limit.
+    template <class Wanted>
+    bool probe(unsigned int slot, Wanted wanted, unsigned int &idx) const {
+        unsigned int step = 1;
+        for (int tries = 0; tries <= probeLimit; ++tries) {
+            idx = slot;
+            if (Tempty[slot] || wanted(slot))
+                return true;
+            slot = (slot + step) % static_cast<unsigned int>(size);
+            step += 2;
+        }
+        idx = 0;
+        return false;
+    }
+    // Stores a position with its record in slot `idx`, whatever is there.
+    void place(unsigned int idx, const board *b);
+    // All arrays were allocated.
     bool usable() const { return Tboards != nullptr && Tscore != nullptr && Tempty != nullptr; }
-    void occupy(unsigned int idx, const board *b);
+
+private:
+    static constexpr int probeLimit = 10; // a look-up compares one slot more than this
+
 };
 
 #endif

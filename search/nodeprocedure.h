@@ -3,7 +3,6 @@
 #define SEARCH_NODEPROCEDURE_H
 
 #include "search/abstractengine.h"
-#include "search/bestline.h"
 #include "search/movesort.h"
 #include "search/score.h"
 
@@ -15,6 +14,7 @@ inline constexpr int levelLimit = 100;
 inline constexpr int captureExtension = 7;
 
 // Negamax alpha-beta over one node. A Node is a position with its move list; it supplies:
+//   Line                               the kind of best line it fills, see BestLine
 //   int budget()                       depth budget, tenths of a ply
 //   void begin(level)                  preparations before anything else
 //   bool listMoves()                   lists and orders the moves; true when there is none
@@ -37,6 +37,8 @@ inline constexpr int captureExtension = 7;
 //   void trace(alpha0, beta)
 template <class Node>
 class NodeProcedure {
+    using Line = typename Node::Line;
+
 public:
     NodeProcedure(Node &node, int level)
         : node_(node), level_(level), horizon_(node.budget() / 10) {}
@@ -44,7 +46,7 @@ public:
     // Values the node into `result` from its side's point of view. Returns the index of the best
     // move, -1 when the moves were not searched or the search was cut off. Window: see
     // AbstractEngine::getBestMove.
-    int run(Score &result, Score alpha, Score beta, BestLine &line) {
+    int run(Score &result, Score alpha, Score beta, Line &line) {
         line.setTop(level_);
         node_.begin(level_);
         reviveNone(alpha);
@@ -93,10 +95,10 @@ private:
 
     // The last move of the list first. Children get the bounds swapped and not negated.
     int searchMoves(int childBudget, Score &result, Score alpha, const Score &beta,
-                    BestLine &line) {
+                    Line &line) {
         const int alpha0 = alpha.value;
         int best = -1;
-        BestLine childLine;
+        Line childLine;
         node_.prepareMoves();
         for (int i = node_.moves() - 1; i >= 0; --i) {
             Score value(Score::none, horizon_);
@@ -129,7 +131,7 @@ private:
 
     // A decided score of the last iteration stands; otherwise the table or a search answers.
     void searchMove(int i, int childBudget, Score &value, const Score &alpha, const Score &beta,
-                    BestLine &childLine) {
+                    Line &childLine) {
         node_.enter(i, childBudget);
         const Score stored(-node_.score(i), horizon_);
         if (stored.aroundGameOver())

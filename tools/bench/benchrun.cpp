@@ -19,8 +19,8 @@ constexpr int hashSlots = 10003;
 
 std::optional<BenchTask> readTask(const QString &line, QString &error) {
     QStringList fields = line.split(' ', Qt::SkipEmptyParts);
-    if (fields.size() < 4) {
-        error = "expected a name, the rules, normal or giveaway, and a position";
+    if (fields.size() < 5) {
+        error = "expected a name, the rules, normal or giveaway, a depth and a position";
         return {};
     }
     BenchTask task;
@@ -29,10 +29,13 @@ std::optional<BenchTask> readTask(const QString &line, QString &error) {
     const std::optional<RuleSet> rules = ruleSetOf(rulesName);
     const QString mode = fields.takeFirst();
     task.giveAway = mode == "giveaway";
+    task.depth = fields.takeFirst().toInt();
     if (!rules.has_value())
         error = QString("unknown rules \"%1\"").arg(rulesName);
     else if (!task.giveAway && mode != "normal")
         error = QString("expected normal or giveaway, found \"%1\"").arg(mode);
+    else if (task.depth < 1 || task.depth > mostDepth)
+        error = QString("the depth must be 1 to %1").arg(mostDepth);
     else if (const auto position = readPositionLine(fields.join(' '), error)) {
         task.rules = *rules;
         task.position = *position;
@@ -61,11 +64,11 @@ QList<BenchTask> readTasks(const QString &text, QString &error) {
     return tasks;
 }
 
-BenchResult runTask(const BenchTask &task, int depth, bool straightforward) {
+BenchResult runTask(const BenchTask &task, bool straightforward) {
     BenchResult result;
     result.statistic.scoreNoise = 1;
     result.statistic.giveAway = task.giveAway;
-    result.statistic.setReqDepth(depth);
+    result.statistic.setReqDepth(task.depth);
 
     board position = task.position;
     XY::B_SIZE = position.size;

@@ -13,6 +13,7 @@ struct BenchTask {
     QString name;
     RuleSet rules = RuleSet::International;
     bool giveAway = false;
+    int depth = 1; // plies
     board position;
 };
 
@@ -24,17 +25,20 @@ struct BenchResult {
     qint64 microseconds = 0;
 };
 
-// Reads tasks, one a line: name, rules, "normal" or "giveaway", then the position line; '#' starts
-// a comment. Stops at the first bad line, with its number and fault in `error`.
+// The deepest search that can be asked for, in plies.
+inline constexpr int mostDepth = 99;
+
+// Reads tasks, one a line: name, rules, "normal" or "giveaway", depth in plies, then the position
+// line; '#' starts a comment. Stops at the first bad line, with its number and fault in `error`.
 QList<BenchTask> readTasks(const QString &text, QString &error);
 
 // The fixed positions of the bench: every rule set and size with an opening, a middle game and a
 // king ending, some played give-away.
 QString builtInTasks();
 
-// Searches the task to a fixed depth in plies without the random term. `straightforward` searches
+// Searches the task to its depth without the random term. `straightforward` searches
 // every node over engines and boards instead of bit sets; the result is the same.
-BenchResult runTask(const BenchTask &task, int depth, bool straightforward);
+BenchResult runTask(const BenchTask &task, bool straightforward);
 
 // A running hash (FNV-1a) over all that a search reports but its time.
 class Signature {

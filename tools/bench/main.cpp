@@ -12,10 +12,8 @@
 
 namespace {
 
-constexpr int defaultDepth = 7;
-
 struct Options {
-    int depth = defaultDepth;
+    int depth = 0; // 0: each position's own
     QString file;
     QString only;
     bool machine = false;
@@ -24,17 +22,22 @@ struct Options {
 
 void describe(QCommandLineParser &parser) {
     parser.setApplicationDescription(
-        "Searches a list of positions to a fixed depth, without the random term, and prints move, "
+        "Searches a list of positions to fixed depths, without the random term, and prints move, "
         "score, nodes and time of each, the totals, and one signature over everything the searches "
         "reported but time. The signature changes when, and only when, the search does.");
     parser.addHelpOption();
-    parser.addOption({{"d", "depth"}, "Search so many plies (1 to 99).", "plies",
-                      QString::number(defaultDepth)});
+    parser.addOption({{"d", "depth"},
+                      QString("Search all positions so many plies deep (1 to %1), instead of each "
+                              "to its own depth.")
+                          .arg(mostDepth),
+                      "plies"});
     parser.addOption({{"p", "positions"},
                       "Read the positions from a file: on each line a name, the rules "
-                      "(international, american, polish), normal or giveaway, and a position line.",
+                      "(international, american, polish), normal or giveaway, the depth in plies, "
+                      "and a position line.",
                       "file"});
-    parser.addOption({{"o", "only"}, "Only positions whose name contains the text.", "text"});
+    parser.addOption({{"o", "only"}, "Only the position of this name or, where there is none, those "
+                                     "whose names contain it.", "name"});
     parser.addOption({{"m", "machine"}, "One tab-separated line a position, with all counters and "
                                         "the best line; totals and signature follow."});
     parser.addOption({{"s", "straightforward"}, "Search over engines and boards only, without the "
@@ -48,10 +51,12 @@ int fail(const QString &message) {
 
 // What is wrong with the command line, empty when nothing is.
 QString readOptions(const QCommandLineParser &parser, Options &options) {
-    bool good = false;
-    options.depth = parser.value("depth").toInt(&good);
-    if (!good || options.depth < 1 || options.depth > 99)
-        return QString("the depth must be 1 to 99, not \"%1\"").arg(parser.value("depth"));
+    options.depth = parser.value("depth").toInt();
+    if (parser.isSet("depth") && (options.depth < 1 || options.depth > mostDepth)) {
+        return QString("the depth must be 1 to %1, not \"%2\"")
+            .arg(mostDepth)
+            .arg(parser.value("depth"));
+    }
     if (!parser.positionalArguments().isEmpty())
         return QString("unexpected argument \"%1\"").arg(parser.positionalArguments().first());
     options.file = parser.value("positions");
@@ -91,6 +96,14 @@ void printMachine(QTextStream &out, const BenchTask &task, const BenchResult &re
         << Qt::flush;
 }
 
+void keepOnly(const QString &name, QList<BenchTask> &tasks) {
+    const bool exact = std::any_of(tasks.cbegin(), tasks.cend(),
+                                   [&](const BenchTask &task) { return task.name == name; });
+    tasks.removeIf([&](const BenchTask &task) {
+        return exact ? task.name != name : !task.name.contains(name);
+    });
+}
+
 void run(const QList<BenchTask> &tasks, const Options &options) {
     QTextStream out(stdout);
     if (options.machine) {
@@ -101,7 +114,7 @@ void run(const QList<BenchTask> &tasks, const Options &options) {
     qint64 nodes = 0;
     qint64 microseconds = 0;
     for (const BenchTask &task : tasks) {
-        const BenchResult result = runTask(task, options.depth, options.straightforward);
+        const BenchResult result = runTask(task, options.straightforward);
         signature.add(result);
         nodes += result.statistic.nodes;
         microseconds += result.microseconds;
@@ -109,7 +122,7 @@ void run(const QList<BenchTask> &tasks, const Options &options) {
     }
     const double seconds = static_cast<double>(std::max<qint64>(microseconds, 1)) / 1e6;
     const double speed = static_cast<double>(nodes) / seconds;
-    out << "positions " << tasks.size() << ", depth " << options.depth << ", nodes " << nodes
+    out << "positions " << tasks.size() << ", nodes " << nodes
         << ", time " << QString::number(seconds, 'f', 3) << " s, nodes per second "
         << QString::number(speed, 'f', 0) << "\nsignature " << signature.text() << '\n';
 }
@@ -133,9 +146,11 @@ int main(int argc, char **argv) {
     QList<BenchTask> tasks = readTasks(tasksText(options, error), error);
     if (!error.isEmpty())
         return fail(error);
-    tasks.removeIf([&](const BenchTask &task) { return !task.name.contains(options.only); });
+    keepOnly(options.only, tasks);
     if (tasks.isEmpty())
         return fail("no positions to search");
+    for (BenchTask &task : tasks)
+        task.depth = options.depth > 0 ? options.depth : task.depth;
     run(tasks, options);
     return 0;
 }
