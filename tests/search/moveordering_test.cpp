@@ -1,0 +1,142 @@
+#include "search/movesort.h"
+#include "tests/support/enginerig.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+using Scores = std::vector<int>;
+
+// Moves told apart by their start column: 0, 1, 2 ...
+void fill(QValueList<LegalMove> &list, const Scores &scores) {
+    list.clear();
+    for (std::size_t i = 0; i < scores.size(); ++i)
+        list.append(LegalMove({static_cast<int>(i), 0}, {0, 1})).score = scores[i];
+}
+
+// Moves as letters by their former places, "a" the first.
+std::string letters(const QValueList<LegalMove> &list) {
+    std::string text;
+    for (const LegalMove &m : list)
+        text += static_cast<char>('a' + m.from().x);
+    return text;
+}
+
+TEST(MoveOrdering, SortOrder) {
+    const struct {
+        Scores scores;
+        const char *order;
+    } cases[] = {{{0, 0, 0, 0, 0}, "aedcb"},
+                 {{0, 0, 0, 0}, "adcb"},
+                 {{0, 0, 0}, "acb"},
+                 {{0, 0}, "ab"},
+                 {{5, 5, 1}, "cab"},
+                 {{2, 1, 2, 1}, "bdca"},
+                 {{7}, "a"},
+                 {{}, ""},
+                 {{3, -1, 4, -1000777, 9}, "dbace"},
+                 {{5, 4, 3, 2, 1, 0}, "fedcba"}};
+    for (const auto &c : cases) {
+        QValueList<LegalMove> list;
+        fill(list, c.scores);
+        sortByScore(list);
+        EXPECT_EQ(letters(list), c.order);
+    }
+}
+
+TEST(MoveOrdering, Reductions) {
+    const struct {
+        Scores scores; // sorted
+        Scores reductions;
+    } cases[] = {{{-1000777, -300, 0, 100, 160}, {5, 7, 2, 1, 0}},
+                 {{-500, -400, 999950}, {0, 0, 0}},
+                 {{-1000000, -999999, -999950}, {0, 0, 0}},
+                 {{-1000777, -1000777}, {5, 5}},
+                 {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
+                 {{-1000000, -999, -600, 0}, {5, 7, 4, 0}}};
+    for (const auto &c : cases) {
+        QValueList<LegalMove> list;
+        fill(list, c.scores);
+        list.first().reduction = 3;
+        AbstractEngine::depthUpdate(&list);
+        Scores found;
+        for (const LegalMove &m : list)
+            found.push_back(m.reduction);
+        EXPECT_EQ(found, c.reductions);
+    }
+}
+
+TEST(MoveOrdering, BonusForSeveralGoodMoves) {
+    const struct {
+        Scores scores;
+        int value;
+        int result;
+    } cases[] = {{{50, 80, 95, 100}, 100, 114},
+                 {{95, 100}, 100, 100},
+                 {{70, 69, 100}, 100, 107},
+                 {{1, 2, 3, 4, 5, 6}, 6, 27},
+                 {{0, 0, 100}, 100, 100},
+                 {{999950, 999950, 999950}, 999950, 999950},
+                 {{-1000777, -1000777, -1000777}, -1000777, -1000777}};
+    for (const auto &c : cases) {
+        EngineRig rig(Rules::International, board(10));
+        fill(rig.engine->moveList, c.scores);
+        Score s(c.value, 1);
+        rig.engine->updatePoints(s);
+        EXPECT_EQ(s.value, c.result);
+        EXPECT_EQ(s.depth, 1);
+    }
+}
+
+TEST(MoveOrdering, Favourites) {
+    const struct {
+        Scores scores;
+        int depth;
+        bool normal;
+        bool gambit;
+    } cases[] = {{{1000, 1900}, 30, true, false},    {{1900, 0, 1000}, 30, true, false},
+                 {{1900, 1000}, 29, false, false},   {{1800, 1000}, 30, false, false},
+                 {{1801, 1000}, 30, true, false},    {{3000, 1000}, 50, true, false},
+                 {{3001, 1000}, 50, true, true},     {{3001, 1000}, 49, true, false},
+                 {{1900, 1900, 0}, 50, false, false}};
+    for (const auto &c : cases) {
+        EngineRig rig(Rules::International, board(10));
+        fill(rig.engine->moveList, c.scores);
+        const std::string before = letters(rig.engine->moveList);
+        rig.engine->depth = c.depth;
+        EXPECT_EQ(rig.engine->FavouriteMove(&rig.engine->moveList), c.normal) << c.scores[0];
+        AbstractEngine::isGambit = true;
+        EXPECT_EQ(rig.engine->FavouriteMove(&rig.engine->moveList), c.gambit) << c.scores[0];
+        EXPECT_EQ(letters(rig.engine->moveList), before);
+    }
+}
+
+TEST(MoveOrdering, FreshListsAreForgotten) {
+    EngineRig rig(Rules::International, board(10));
+    fill(rig.engine->moveList, {1, 2, 3});
+    rig.engine->randTestSort();
+    EXPECT_EQ(letters(rig.engine->moveList), "abc");
+    EXPECT_EQ(rig.engine->moveList.last().score, 3);
+    rig.engine->randMoveList();
+    EXPECT_EQ(letters(rig.engine->moveList), "abc");
+    for (const LegalMove &m : rig.engine->moveList)
+        EXPECT_EQ(m.score, -1000777);
+}
+
+TEST(MoveOrdering, OutsideRange) {
+    const Score none(-1000777, 0);
+    const struct {
+        int value;
+        Score alpha;
+        Score beta;
+        bool outside;
+    } cases[] = {{5, none, none, false},         {5, Score(5, 0), none, true},
+                 {6, Score(5, 0), none, false},  {5, none, Score(-5, 0), true},
+                 {4, none, Score(-5, 0), false}, {7, Score(5, 0), Score(-9, 0), false}};
+    for (const auto &c : cases)
+        EXPECT_EQ(AbstractEngine::outsideRange(c.value, c.alpha, c.beta), c.outside) << c.value;
+}
+
+} // namespace
