@@ -1,0 +1,135 @@
+#include "tools/perft/perft.h"
+
+#include "rules/bitmovegenerator.h"
+#include "rules/bitposition.h"
+#include "rules/intengine.h"
+#include "rules/legalmove.h"
+
+#include <memory>
+
+namespace {
+
+template <int N, const RuleTraits &Rules>
+class Counter {
+public:
+    Counter(bool distinct, const Perft::Progress &progress)
+        : distinct_(distinct), progress_(progress) {}
+
+    quint64 count(const board &b, int depth) {
+        if (depth == 0)
+            return 1;
+        const BitPosition<N> p(b);
+        return b.whiteToMove ? count<true>(p, depth) : count<false>(p, depth);
+    }
+
+private:
+    template <bool White>
+    quint64 count(const BitPosition<N> &p, int depth) {
+        BitMoveGenerator<N, Rules, White> generator(p);
+        const std::size_t first = stack_.size();
+        if (generator.canCapture())
+            listCaptures(generator);
+        if (stack_.size() == first) {
+            if (depth == 1)
+                return static_cast<quint64>(generator.countQuiet());
+            generator.listQuiet(stack_);
+        }
+        const std::size_t end = stack_.size();
+        quint64 positions = depth == 1 ? end - first : 0;
+        for (std::size_t i = first; depth > 1 && i < end; ++i)
+            positions += count<!White>(p.template after<White>(stack_[i]), depth - 1);
+        stack_.cut(first);
+        if (depth == progressDepth)
+            report(positions);
+        return positions;
+    }
+
+    template <class Generator>
+    void listCaptures(Generator &generator) {
+        const std::size_t first = stack_.size();
+        generator.listCaptures(stack_);
+        if (distinct_)
+            dropOtherRoutes(first);
+    }
+
+    void dropOtherRoutes(std::size_t first) {
+        std::size_t kept = first;
+        for (std::size_t i = first; i < stack_.size(); ++i) {
+            const BitMove<N> m = stack_[i];
+            bool known = false;
+            for (std::size_t j = first; j < kept; ++j) {
+                known |= stack_[j].from == m.from && stack_[j].to == m.to &&
+                         stack_[j].taken == m.taken;
+            }
+            if (!known)
+                stack_[kept++] = m;
+        }
+        stack_.cut(kept);
+    }
+
+    void report(quint64 positions) {
+        counted_ += positions;
+        if (progress_)
+            progress_(counted_);
+    }
+
+    static constexpr int progressDepth = 5;
+
+    const bool distinct_;
+    const Perft::Progress &progress_;
+    MoveStack<BitMove<N>> stack_;
+    quint64 counted_ = 0;
+};
+
+template <int N>
+quint64 countFor(RuleSet rules, const board &b, int depth, bool distinct,
+                 const Perft::Progress &progress) {
+    switch (rules) {
+    case RuleSet::American:
+        return Counter<N, americanRules>(distinct, progress).count(b, depth);
+    case RuleSet::Polish:
+        return Counter<N, polishRules>(distinct, progress).count(b, depth);
+    case RuleSet::International:
+        break;
+    }
+    return Counter<N, internationalRules>(distinct, progress).count(b, depth);
+}
+
+} // namespace
+
+Perft::Perft(RuleSet rules, const board &b) : rules_(rules), position_(b) {}
+
+quint64 Perft::count(int depth) const {
+    const CaptureLimitScope report;
+    return countFrom(position_, depth);
+}
+
+quint64 Perft::countFrom(const board &b, int depth) const {
+    switch (b.size) {
+    case 6:
+        return countFor<6>(rules_, b, depth, distinct_, progress_);
+    case 8:
+        return countFor<8>(rules_, b, depth, distinct_, progress_);
+    case 10:
+        return countFor<10>(rules_, b, depth, distinct_, progress_);
+    default:
+        return countFor<12>(rules_, b, depth, distinct_, progress_);
+    }
+}
+
+std::vector<Perft::Share> Perft::divide(int depth) const {
+    const CaptureLimitScope report;
+    XY::B_SIZE = position_.size;
+    board b = position_;
+    const std::unique_ptr<AbstractEngine> engine(newEngine(rules_, &b, 1, nullptr, b.size));
+    engine->FillMoveList();
+    std::vector<Share> shares;
+    for (const LegalMove &m : engine->moveList) {
+        board after = b;
+        engine->makeMove(&after, &m);
+        QString notation;
+        m.ToString(notation);
+        shares.push_back({notation, countFrom(after, depth - 1)});
+    }
+    return shares;
+}
