@@ -146,6 +146,9 @@ protected:
     std::unique_ptr<boardMetrics> pMetrics;
     int whiteComputer = 0; // 1: the computer plays white
     int blackComputer = 0; // 1: the computer plays black
+    bool thinking = false; // a search runs
+    bool flying = false;   // a piece flies
+    bool closed = false;   // the window was closed
 
 private:
     // Construction and rebuilding.
@@ -172,10 +175,6 @@ private:
     void playMove(LegalMove *move);
     void enableSteps();
     void restorePosition();
-
-    bool thinking = false; // a search runs
-    bool flying = false;   // a piece flies
-    bool closed = false;   // the window was closed
 };
 
 #endif

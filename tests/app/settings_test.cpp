@@ -1,0 +1,178 @@
+// The settings: what each choice does to the game, and what a rejected dialog does not.
+
+#include "tests/app/gamerig.h"
+
+#include "app/format1000.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+
+#include <climits>
+
+TEST_F(GameTest, UnchangedSettingsHandTheTurnOverAgain) {
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
+        tap(5, 3);
+        settings(button);
+        EXPECT_EQ(marked(MarkNext), "");
+        EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
+        tap(4, 4);
+        EXPECT_FALSE(game.flying) << "the move half entered is dropped";
+    }
+}
+
+TEST_F(GameTest, SettingsAreRejectedOrAcceptedAsAWhole) {
+    const auto change = [this](formsettings &dialog) {
+        choose(dialog.cmbRules, 1);
+        choose(dialog.cmbSize, eightSquares);
+        choose(dialog.cmbLevel, 1);
+        choose(dialog.cmbPlayers, humans);
+        press(dialog.chGiveAway, QPoint(5, dialog.chGiveAway->height() / 2));
+    };
+    taps({{5, 3}, {4, 4}});
+    land(2);
+    const std::string before = picture(*game.pBoard) + status();
+    settings(QDialogButtonBox::Cancel, change);
+    EXPECT_EQ(picture(*game.pBoard) + status(), before);
+    const formsettings &dialog = *game.pSettings;
+    EXPECT_EQ(dialog.cmbRules->currentIndex() + dialog.rulesIndex, 0);
+    EXPECT_EQ(dialog.cmbSize->currentIndex() + dialog.sizeIndex, 4);
+    EXPECT_EQ(dialog.cmbLevel->currentIndex() + dialog.levelIndex, 6);
+    EXPECT_EQ(dialog.cmbPlayers->currentIndex(), 0);
+    EXPECT_FALSE(dialog.giveAway || dialog.chGiveAway->isChecked() || game.pStat->giveAway);
+
+    settings(QDialogButtonBox::Ok, change);
+    EXPECT_EQ(status(), "[Your Move] 12/12 About Force Settings NewGame");
+    EXPECT_STREQ(game.pEngine->className(), "AmEngine");
+    EXPECT_EQ(game.pStat->getReqDepth(), 2);
+    EXPECT_EQ(game.pStat->scoreNoise, 400);
+    EXPECT_TRUE(game.pStat->giveAway);
+    EXPECT_EQ(game.whiteComputer + game.blackComputer, 0);
+    expectAgreement();
+}
+
+TEST_F(GameTest, SmallerBoardLeavesADeadStripUntilTheNextResize) {
+    settings(QDialogButtonBox::Ok,
+             [](formsettings &dialog) { choose(dialog.cmbSize, eightSquares); });
+    EXPECT_EQ(game.pMetrics->getW(), 230);
+    EXPECT_EQ(game.pMetrics->SquareWidthB(), 28);
+    tap(2, 2);
+    EXPECT_EQ(marked(MarkNext), "(1,3) (3,3)");
+    press(game.pView->viewport(), QPoint(228, 14)); // beside (7,7)
+    press(game.pView->viewport(), QPoint(14, 228)); // below (0,0)
+    EXPECT_EQ(marked(MarkNext), "(1,3) (3,3)");
+    tap(3, 3);
+    land(2);
+    expectAgreement();
+    game.resize(240, 311);
+    QTest::qWait(20);
+    EXPECT_EQ(game.pMetrics->getW(), 224);
+    EXPECT_EQ(game.pView->x(), (240 - game.pView->width()) / 2);
+    expectAgreement();
+}
+
+// Black's man can only take backwards, which Americans do not.
+TEST_F(GameTest, OtherRulesGoOnWithTheGameAlsoWhenItIsOver) {
+    settings(QDialogButtonBox::Ok, [](formsettings &dialog) {
+        choose(dialog.cmbRules, 1);
+        choose(dialog.cmbSize, sixSquares);
+    });
+    place("b ...... ...... .w.... b..... .w.... ..w...");
+    EXPECT_EQ(boxes(), "Game Over: Game Over; ");
+    EXPECT_EQ(status(), "[Game Over] 3/1 About Settings NewGame");
+    settings(QDialogButtonBox::Ok, [](formsettings &dialog) { choose(dialog.cmbRules, 0); });
+    EXPECT_EQ(status(), "[You Must Capture] 3/1 About Force Settings NewGame");
+    press(game.btnForce);
+    land();
+    EXPECT_EQ(picture(*game.pBoard), picture(drawn("w ...... ..b... ...... ...... .w.... ..w...")));
+}
+
+TEST_F(GameTest, LevelsAskForWhatTheirNamesSay) {
+    constexpr struct {
+        int depth;
+        int seconds;
+        int noise;
+    } levels[] = {{1, -1, 1000}, {2, -1, 400}, {-1, 2, 5},  {-1, 5, 5},
+                  {-1, 10, 5},   {-1, 20, 5},  {-1, 60, 5}, {-1, 99999999, 5}};
+    for (int i = 7; i >= 0; --i) {
+        settings(QDialogButtonBox::Ok, [i](formsettings &dialog) { choose(dialog.cmbLevel, i); });
+        EXPECT_EQ(game.pStat->getReqDepth(), levels[i].depth) << i;
+        EXPECT_EQ(game.pStat->getReqTime(), levels[i].seconds) << i;
+        EXPECT_EQ(game.pStat->scoreNoise, levels[i].noise) << i;
+    }
+}
+
+TEST_F(GameTest, TwoSecondsAreKeptTo) {
+    game.setLevel(2);
+    QElapsedTimer clock;
+    clock.start();
+    press(game.btnForce);
+    EXPECT_LT(clock.elapsed(), 8000);
+    EXPECT_TRUE(game.flying);
+}
+
+TEST_F(GameTest, UnknownItemsAreReportedAndReplaced) {
+    game.setRules(2);
+    for (const int unknown : {-1, 8}) {
+        game.setLevel(unknown);
+        EXPECT_EQ(boxes(), "Draughts::setLevel: unknown value, using default; ");
+        EXPECT_EQ(game.pStat->getReqTime(), 5);
+        EXPECT_EQ(game.pStat->scoreNoise, 1);
+        EXPECT_EQ(game.pSettings->cmbLevel->currentIndex(), 3);
+        game.setBSize(sixSquares);
+        game.setBSize(unknown);
+        EXPECT_EQ(boxes(), "Draughts::setRules: unknown size, using international; ");
+        EXPECT_EQ(game.labelScore->text(), QStringLiteral("20/20"));
+        game.setRules(unknown);
+        EXPECT_EQ(boxes(), "Draughts::setRules: unknown rules, using international; ");
+        EXPECT_STREQ(game.pEngine->className(), "IntEngine");
+        expectAgreement();
+    }
+}
+
+// White can give its man at once on (3,3), or walk on safely.
+TEST_F(GameTest, GiveAwayMakesTheComputerGiveItsPieces) {
+    game.setBSize(sixSquares);
+    game.setGiveAway(true);
+    game.setLevel(1);
+    game.pStat->scoreNoise = 1;
+    place("w .....b ....b. ...... ..w... ...... ......");
+    press(game.btnForce);
+    land();
+    EXPECT_EQ(picture(*game.pBoard), picture(drawn("b .....b ....b. ...w.. ...... ...... ......")));
+}
+
+TEST_F(GameTest, EveryRuleSetPlaysItselfOnEveryBoard) {
+    for (const int rules : {2, 1, 0}) {
+        for (const int size : {3, 2, 1, 0}) {
+            SCOPED_TRACE(testing::Message() << "rules " << rules << ", size " << size);
+            settings(QDialogButtonBox::Ok, [=](formsettings &dialog) {
+                choose(dialog.cmbRules, rules);
+                choose(dialog.cmbSize, size);
+                choose(dialog.cmbPlayers, computers);
+            });
+            for (int ply = 0; ply < 10; ++ply) {
+                land();
+                game.pCanvas->update();
+            }
+            EXPECT_EQ(boxes(), "");
+            // BREAK in flight: the computer plays once more, then the game is the player's.
+            press(game.btnBreak);
+            land(2);
+            expectAgreement();
+            press(game.btnNewGame);
+            EXPECT_EQ(boxes(), "confirm: confirm NewGame; ");
+        }
+    }
+}
+
+TEST(Format1000, GroupsThreeDigits) {
+    const std::pair<int, const char *> cases[] = {{0, ""},
+                                                  {999, "999 "},
+                                                  {1000, "001 000 "},
+                                                  {-5, "-005 "},
+                                                  {-1000, "-001 000 "},
+                                                  {1234567, "001 234 567 "},
+                                                  {INT_MIN, "-002 147 483 648 "}};
+    for (const auto &[number, text] : cases)
+        EXPECT_EQ(format1000(number), QString::fromLatin1(text));
+}

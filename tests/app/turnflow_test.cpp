@@ -1,0 +1,280 @@
+// The turns of a game: taps, flights, answers, the end.
+
+#include "tests/app/gamerig.h"
+
+#include "rules/intengine.h"
+
+#include <algorithm>
+
+namespace {
+
+const QColor blue(108, 108, 255);
+const QColor red(255, 108, 108);
+const QColor grey(118, 118, 118);
+
+// Finds a move at the first listing and at the one for the player, but none for the search.
+class LostEngine : public IntEngine {
+public:
+    using IntEngine::IntEngine;
+    bool FillMoveList() override {
+        const bool none = IntEngine::FillMoveList();
+        if (++listings != 2)
+            return none;
+        moveList.clear();
+        return true;
+    }
+
+private:
+    int listings = 0;
+};
+
+} // namespace
+
+TEST_F(GameTest, StartsWithThePlayersMoveOnTenSquares) {
+    EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
+    EXPECT_EQ(shown(), picture(drawn(startOfTen)));
+    expectAgreement();
+}
+
+TEST_F(GameTest, TapsSelectReselectAndClear) {
+    tap(5, 3);
+    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
+    EXPECT_EQ(squareColour(4, 4), blue);
+    tap(9, 3);
+    EXPECT_EQ(marked(MarkNext), "(8,4)");
+    tap(8, 4 + 2);
+    EXPECT_EQ(marked(MarkNext), "") << "a black man";
+    tap(1, 3);
+    EXPECT_EQ(marked(MarkNext), "(0,4) (2,4)");
+    tap(4, 4);
+    EXPECT_EQ(marked(MarkNext), "") << "an empty square that was not offered";
+    EXPECT_EQ(squareColour(0, 4), grey);
+    press(game.pView->viewport(), QPoint(23 * 4 + 11, 23 * 6 + 11));
+    EXPECT_EQ(marked(MarkNext), "") << "a light square";
+    tap(5, 3);
+    tap(5, 3); // also quickly, as a double click
+    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
+}
+
+TEST_F(GameTest, NothingButTheFlightActsWhileThePlayersManFlies) {
+    taps({{5, 3}, {4, 4}});
+    ASSERT_TRUE(game.flying);
+    EXPECT_EQ(status(), "[Your Move] 20/20 NewGame");
+    const std::string before = picture(*game.pBoard);
+    for (QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnForce,
+                                game.btnSettings, game.btnNewGame})
+        press(button);
+    for (auto slot : {&Draughts::newGame, &Draughts::forceMove, &Draughts::histPrev,
+                      &Draughts::histFwd, &Draughts::showSettings, &Draughts::showAbout})
+        (game.*slot)();
+    game.setRules(1);
+    game.setBSize(eightSquares);
+    game.setPosXY(0, 0, true);
+    tap(3, 3);
+    game.resize(240, 312);
+    EXPECT_EQ(picture(*game.pBoard), before);
+
+    // The canvas's own timer brings the man home and the computer answers.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return game.pBoard->plyCount == 2; }));
+    EXPECT_EQ(game.pieces[4][4]->x(), 4 * 23);
+    EXPECT_EQ(game.pieces[4][4]->y(), 5 * 23);
+    EXPECT_TRUE(game.lblThinking->isVisible());
+    EXPECT_EQ(status().substr(status().find("20/20")), "20/20 Prev About Force Settings NewGame");
+    EXPECT_EQ(marked(MarkNext), "");
+    EXPECT_EQ(marked(MarkPath).size(), std::string("(4,4) (5,5)").size()) << "the answer's path";
+    expectAgreement();
+    EXPECT_EQ(host.beeps, 1);
+}
+
+constexpr const char *twoOrOne =
+    "w .......... .......... .......... .......... .b...b.... w......... "
+    "...b...... ..w....... .......... ........w.";
+
+TEST_F(GameTest, LongestCaptureIsEnteredSquareBySquare) {
+    place(twoOrOne);
+    EXPECT_EQ(status(), "[You Must Capture] 3/3 About Force Settings NewGame");
+    for (const XY other : {XY(8, 0), XY(0, 4)}) {
+        tap(other.x, other.y);
+        EXPECT_EQ(marked(MarkNext), "") << "a quiet move, and a capture of one";
+    }
+    tap(2, 2);
+    EXPECT_EQ(marked(MarkNext), "(4,4)");
+    tap(4, 4);
+    EXPECT_EQ(marked(MarkNext), "(6,6)");
+    tap(6, 6);
+    const std::string flight = shown();
+    EXPECT_EQ(std::count(flight.begin(), flight.end(), 'x'), 2) << flight;
+    land();
+    EXPECT_EQ(status(), "[Your Move] 3/1 Prev About Force Settings NewGame");
+    EXPECT_EQ(squareColour(2, 2), red);
+    EXPECT_EQ(squareColour(6, 6), red);
+    EXPECT_EQ(squareColour(3, 3), grey);
+    expectAgreement();
+}
+
+TEST_F(GameTest, PolishRulesLeaveTheChoiceOfTheCapture) {
+    game.setRules(2);
+    place(twoOrOne);
+    tap(0, 4);
+    EXPECT_EQ(marked(MarkNext), "(2,6)");
+}
+
+TEST_F(GameTest, MovesEndAsTheRulesHaveIt) {
+    const struct {
+        const char *what;
+        int rules;
+        const char *before;
+        std::vector<XY> path;
+        const char *offered; // before the last tap
+        const char *after;
+    } cases[] = {
+        {"white crowns",
+         0,
+         "w ...... ..w... ...... ...... .b.... ......",
+         {{2, 4}, {3, 5}},
+         "(1,5) (3,5)",
+         "b ...W.. ...... ...... ...... .b.... ......"},
+        {"black crowns",
+         1,
+         "b ...... ...... ...w.. ...... .b.... ......",
+         {{1, 1}, {0, 0}},
+         "(0,0) (2,0)",
+         "w ...... ...... ...w.. ...... ...... B....."},
+        {"no crown in passing",
+         0,
+         "w ...... ..b.b. .w.... b..... ...... ......",
+         {{1, 3}, {3, 5}, {5, 3}},
+         "(5,3)",
+         "b ...... ...... .....w b..... ...... ......"},
+        {"a flying king chooses",
+         0,
+         "w ...... b..... ...... ..b... ...... W.....",
+         {{0, 0}, {4, 4}},
+         "(3,3) (4,4) (5,5)",
+         "b ...... b...W. ...... ...... ...... ......"},
+        {"a short king does not",
+         1,
+         "w ...... b..... ...... ...... .b.... W.....",
+         {{0, 0}, {2, 2}},
+         "(2,2)",
+         "b ...... b..... ...... ..W... ...... ......"},
+        {"round to where it began",
+         0,
+         "w .....b ...... .b.b.. ...... .b.b.. ..w...",
+         {{2, 0}, {4, 2}, {2, 4}, {0, 2}, {2, 0}},
+         "(2,0)",
+         "b .....b ...... ...... ...... ...... ..w..."},
+    };
+    game.setBSize(sixSquares);
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        game.setRules(c.rules);
+        place(c.before);
+        taps({c.path.begin(), c.path.end() - 1});
+        EXPECT_EQ(marked(MarkNext), c.offered);
+        tap(c.path.back().x, c.path.back().y);
+        land();
+        EXPECT_EQ(picture(*game.pBoard), picture(drawn(c.after)));
+        expectAgreement();
+    }
+}
+
+TEST_F(GameTest, GameOverLeavesNewGameSettingsAndTheWayBack) {
+    game.setBSize(sixSquares);
+    place("w ...... ...... ...... ..b... .w.... ......");
+    taps({{1, 1}, {3, 3}});
+    land();
+    EXPECT_EQ(boxes(), "Game Over: Game Over; ");
+    const std::string over = "[Game Over] 1/0 Prev About Settings NewGame";
+    EXPECT_EQ(status(), over);
+    tap(3, 3);
+    press(game.btnForce);
+    EXPECT_EQ(status() + marked(MarkNext), over);
+    press(game.btnPrev);
+    EXPECT_EQ(status(), "[You Must Capture] 1/1 Fwd About Force Settings NewGame");
+    press(game.btnFwd);
+    EXPECT_EQ(status(), over);
+    EXPECT_EQ(boxes(), "Game Over: Game Over; ");
+    press(game.btnNewGame);
+    EXPECT_EQ(boxes(), "confirm: confirm NewGame; ");
+    EXPECT_EQ(status(), "[Your Move] 6/6 About Force Settings NewGame");
+}
+
+// The player always takes the first move of the list. Games may also go on for ever.
+TEST_F(GameTest, WholeGameEndsWithGameOver) {
+    game.setBSize(sixSquares);
+    std::string ended;
+    while (ended.empty() && host.fixedSeed < 50) {
+        for (int move = 0; move < 60 && host.boxes.empty(); ++move) {
+            for (const XY &square : QArray<XY>(game.pEngine->getLegalMove(0)->path))
+                tap(square.x, square.y);
+            for (land(); game.flying;)
+                land();
+            expectAgreement();
+        }
+        ended = boxes();
+        if (ended.empty())
+            game.newGame();
+        ++host.fixedSeed;
+        host.boxes.clear();
+    }
+    EXPECT_EQ(ended, "Game Over: Game Over; ");
+    EXPECT_EQ(game.lblThinking->text(), QStringLiteral("Game Over"));
+}
+
+TEST_F(GameTest, SearchWithoutAMoveHandsTheTurnToThePlayer) {
+    game.pEngine =
+        std::make_unique<LostEngine>(game.pBoard.get(), 1, game.pStat.get(), game.pMetrics->size);
+    press(game.btnForce);
+    EXPECT_EQ(boxes(), "AnimateLegalMove: no move given; ");
+    EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
+    taps({{5, 3}, {4, 4}});
+    land(2);
+    expectAgreement();
+    EXPECT_TRUE(game.pBoard->whiteToMove);
+}
+
+TEST_F(GameTest, ReportsSpritesAndTurnsThatAreOutOfStep) {
+    game.pieces[1][3]->hide();
+    game.testPieces();
+    EXPECT_EQ(boxes(), "Draughts::testPieces: visible==captured; ");
+    game.pieces[1][3]->show();
+    game.pieces[1][3]->setBoardPos(2, 4);
+    game.testPieces();
+    EXPECT_EQ(boxes(), "Draughts::testPieces: (bx!=dstBX) || (by!=dstBY); ");
+    game.pieces[1][3]->setBoardPos(1, 3);
+    host.onBox = [this] {
+        host.onBox = nullptr;
+        game.DoPlayerMove();
+    };
+    game.setBSize(sixSquares);
+    place("w ...... ...... ...... ..b... ...... ......");
+    EXPECT_EQ(boxes(), "Game Over: Game Over; DoPlayerMove: level>1; Game Over: Game Over; ");
+}
+
+TEST_F(GameTest, EditingCyclesThroughThePieces) {
+    constexpr int cycle[] = {0, 5, 9, 6, 10, 0};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(game.nextPieceType(cycle[i]), cycle[i + 1]);
+        EXPECT_EQ(game.pBoard->squares[4][4], cycle[i]);
+        game.setPosXY(4, 4, false);
+    }
+    EXPECT_EQ(game.nextPieceType(3), 0);
+    game.setPosXY(1, 3, true);
+    game.setPosXY(-1, 3, false);
+    game.setPosXY(4, 5, false);
+    game.DoPlayerMove();
+    EXPECT_EQ(game.labelScore->text(), QStringLiteral("19/20"));
+    expectAgreement();
+}
+
+TEST_F(GameTest, ShowsWhoOwnsTheSquaresAndTheMoveInFlight) {
+    game.markTakenField();
+    EXPECT_EQ(squareColour(1, 1), QColor(108, 128, 108));
+    EXPECT_EQ(squareColour(1, 9), QColor(128, 108, 108));
+    game.markLastMove();
+    EXPECT_EQ(marked(MarkPath), "") << "no move is being played";
+    taps({{5, 3}, {6, 4}});
+    game.markLastMove();
+    EXPECT_EQ(marked(MarkPath), "(5,3) (6,4)");
+}
