@@ -15,9 +15,10 @@ class BitAnalysis {
     using Bits = typename Squares::Bits;
 
 public:
-    BitAnalysis(const BitPosition<N> &p, bool whiteToMove) : p_(p), free_(p.empty()) {
-        white_.start(p.template men<true>(), p.white);
-        black_.start(p.template men<false>(), p.black);
+    BitAnalysis(const BitPosition<N> &p, bool whiteToMove) : p_(p) {
+        const Bits empty = p.empty();
+        white_.start(p.template men<true>(), empty & ~neighbourhood(p.black));
+        black_.start(p.template men<false>(), empty & ~neighbourhood(p.white));
         flood(whiteToMove);
     }
 
@@ -50,37 +51,46 @@ private:
     static constexpr int mostCounted = 4;
 
     struct Side {
-        Bits front;            // squares reached in the last step; at first the men
-        Bits reached = 0;      // squares reached in all steps
-        Bits control;          // neighbourhood of pieces and reached squares
-        Bits layers[N + 2];    // squares reached by step; layer 1: the men
-        int last = 1;          // the highest layer that holds a square
+        Bits next;          // squares one step in front of those reached in the last step
+        Bits open;          // squares it may still claim: free, and not controlled by the other side
+        Bits reached = 0;   // squares reached in all steps
+        Bits layers[N + 2]; // squares reached by step; layer 1: the men
+        int last = 1;       // the highest layer that holds a square
 
-        void start(Bits men, Bits pieces) {
-            front = men;
+        void start(Bits men, Bits claimable) {
             layers[1] = men;
-            control = Squares::around(pieces);
+            open = claimable;
         }
     };
 
+    // The squares that pieces on `set` control. Squares on the board's edge never are.
+    static Bits neighbourhood(Bits set) { return Squares::around(set) & Squares::inside; }
+
+    // One step of a side: false when it claims nothing. What it claims, and what it controls from
+    // there, is closed to the other side.
     template <bool White>
-    Bits advance(Side &side, const Side &other, int step) {
-        const Bits uncontrolled = ~(other.control & Squares::inside);
-        side.front = Squares::template forward<White>(side.front) & free_ & uncontrolled;
-        if (side.front == 0)
-            return 0;
-        free_ &= ~side.front;
-        side.reached |= side.front;
-        side.control |= Squares::around(side.front);
-        side.layers[step + 1] = side.front;
+    static bool advance(Side &side, Side &other, int step) {
+        const Bits front = side.next & side.open;
+        if (front == 0) {
+            side.next = 0;
+            return false;
+        }
+        side.next = Squares::template forward<White>(front);
+        const Bits around = side.next | Squares::template forward<!White>(front);
+        side.open &= ~front;
+        other.open &= ~(front | (around & Squares::inside));
+        side.reached |= front;
+        side.layers[step + 1] = front;
         side.last = step + 1;
-        return side.front;
+        return true;
     }
 
     // The side to move claims contested squares of each step first.
     void flood(bool whiteToMove) {
-        for (int step = 1; step <= N; ++step) {
-            Bits changed;
+        white_.next = Squares::template forward<true>(white_.layers[1]);
+        black_.next = Squares::template forward<false>(black_.layers[1]);
+        bool changed = true;
+        for (int step = 1; changed && step <= N; ++step) {
             if (whiteToMove) {
                 changed = advance<true>(white_, black_, step);
                 changed |= advance<false>(black_, white_, step);
@@ -88,8 +98,6 @@ private:
                 changed = advance<false>(black_, white_, step);
                 changed |= advance<true>(white_, black_, step);
             }
-            if (changed == 0)
-                break;
         }
     }
 
@@ -106,7 +114,6 @@ private:
     }
 
     const BitPosition<N> &p_;
-    Bits free_; // squares neither occupied nor reached
     Side white_;
     Side black_;
 };

@@ -37,22 +37,14 @@ public:
           men_(own_ & ~p.kings), empty_(p.empty()) {}
 
     // Some own piece can capture.
-    bool canCapture() const { return (manCapturers() | kingCapturers()) != 0; }
+    bool canCapture() const { return manCapturers() != 0 || kingsCanCapture(); }
 
     // Number of non-capturing moves.
     int countQuiet() const {
-        using S = Squares;
         int count = countBits(left() & empty_) + countBits(right() & empty_);
         if (kings_ == 0)
             return count;
-        forEachDirection([&](auto d) {
-            Bits reached = S::template step<d>(kings_) & empty_;
-            count += countBits(reached);
-            while (Rules.flyingKings && reached != 0) {
-                reached = S::template step<d>(reached) & empty_;
-                count += countBits(reached);
-            }
-        });
+        forEachDirection([&](auto d) { count += countBits(kingView<d>()); });
         return count;
     }
 
@@ -80,15 +72,14 @@ public:
     void listCaptures(Stack &stack) {
         first_ = stack.size();
         most_ = 0;
-        const Bits capturingMen = manCapturers();
-        for (Bits rest = capturingMen | kingCapturers(); rest != 0;) {
+        for (Bits rest = manCapturers() | kings_; rest != 0;) {
             from_ = takeLowest(rest);
             const Bits start = Squares::bit(from_);
             landing_ = empty_ | start;
             if ((kings_ & start) == 0)
                 manSequences(stack, start, 0, 1);
             else if constexpr (Rules.flyingKings)
-                flyingSequences(stack, start, 0, 1);
+                flyingSequences(stack, from_, 0, 1);
             else
                 shortKingSequences(stack, start, 0, 1);
         }
@@ -129,22 +120,31 @@ private:
 
     Bits manCapturers() const { return jumpers<Rules.menCaptureBackwards>(men_); }
 
-    Bits kingCapturers() const {
+    // The free squares that the kings see in direction d. No two kings see the same one: the nearer
+    // hides it from the farther.
+    template <int d>
+    Bits kingView() const {
+        Bits front = Squares::template step<d>(kings_) & empty_;
+        Bits view = front;
+        while (Rules.flyingKings && front != 0) {
+            front = Squares::template step<d>(front) & empty_;
+            view |= front;
+        }
+        return view;
+    }
+
+    bool kingsCanCapture() const {
         if (kings_ == 0)
-            return 0;
+            return false;
         if constexpr (!Rules.flyingKings)
-            return jumpers<true>(kings_);
-        Bits found = 0;
+            return jumpers<true>(kings_) != 0;
+        Bits hit = 0;
         forEachDirection([&](auto d) {
             constexpr int back = oppositeDirection(d);
-            Bits view = Squares::template step<back>(enemy_ & Squares::template step<back>(empty_));
-            found |= view;
-            for (view &= empty_; view != 0; view &= empty_) {
-                view = Squares::template step<back>(view);
-                found |= view;
-            }
+            const Bits victims = enemy_ & Squares::template step<back>(empty_);
+            hit |= Squares::template step<d>(kings_ | kingView<d>()) & victims;
         });
-        return found & kings_;
+        return hit != 0;
     }
 
     static void append(Stack &stack, int from, int to, Bits taken) {
@@ -165,7 +165,7 @@ private:
     }
 
     // A sequence is complete: keeps it unless longer ones are known; a longer one drops the others.
-    void complete(Stack &stack, Bits to, Bits taken, int jumps) {
+    void complete(Stack &stack, int to, Bits taken, int jumps) {
         if constexpr (Rules.maximumCapture) {
             if (jumps < most_)
                 return;
@@ -173,7 +173,7 @@ private:
                 stack.cut(first_);
             most_ = jumps;
         }
-        append(stack, from_, lowestBit(to), taken);
+        append(stack, from_, to, taken);
     }
 
     // Depth-first over the jumps of a short-stepping piece that stands on `at`, jump number `level`
@@ -192,7 +192,7 @@ private:
             }
         });
         if (!found && level > 1)
-            complete(stack, at, taken, level - 1);
+            complete(stack, lowestBit(at), taken, level - 1);
         return found;
     }
 
@@ -218,22 +218,22 @@ private:
 
     // A flying king may land on any free square behind the piece it jumps; squares from which it
     // can go on exclude the others.
-    bool flyingSequences(Stack &stack, Bits at, Bits taken, int level) {
+    bool flyingSequences(Stack &stack, int at, Bits taken, int level) {
         bool found = false;
+        const Bits blockers = Squares::all & ~landing_;
+        const Bits victims = enemy_ & ~taken;
         forEachDirection([&](auto d) {
-            Bits over = Squares::template step<d>(at);
-            while ((over & landing_) != 0)
-                over = Squares::template step<d>(over);
-            over &= enemy_ & ~taken;
+            const Bits over = Squares::template nearest<d>(at, blockers) & victims;
             const Bits first = Squares::template step<d>(over) & landing_;
+            if (first == 0)
+                return;
+            found = true;
             bool continued = false;
-            for (Bits land = first; land != 0; land = Squares::template step<d>(land) & landing_) {
-                found = true;
-                continued |= flyingSequences(stack, land, taken | over, level + 1);
-            }
+            for (Bits land = first; land != 0; land = Squares::template step<d>(land) & landing_)
+                continued |= flyingSequences(stack, lowestBit(land), taken | over, level + 1);
             for (Bits land = continued ? 0 : first; land != 0;
                  land = Squares::template step<d>(land) & landing_)
-                complete(stack, land, taken | over, level);
+                complete(stack, lowestBit(land), taken | over, level);
         });
         return found;
     }

@@ -66,6 +66,14 @@ constexpr int lowestBit(DoubleWord set) {
                     : 64 + std::countr_zero(static_cast<std::uint64_t>(set >> 64));
 }
 
+constexpr int highestBit(std::uint64_t set) {
+    return 63 - std::countl_zero(set);
+}
+constexpr int highestBit(DoubleWord set) {
+    const auto high = static_cast<std::uint64_t>(set >> 64);
+    return high != 0 ? 127 - std::countl_zero(high) : highestBit(static_cast<std::uint64_t>(set));
+}
+
 // Removes the lowest bit of the set and returns its index.
 template <class Bits>
 constexpr int takeLowest(Bits &set) {
@@ -137,6 +145,29 @@ struct DarkSquares {
     // Squares whose neighbour in direction d is off the board.
     template <int d>
     static constexpr Bits rim = all & ~step<oppositeDirection(d)>(all);
+
+    // The nearest of `set` on the ray that leaves square i in direction d, as a set; empty when there
+    // is none.
+    template <int d>
+    static constexpr Bits nearest(int i, Bits set) {
+        const Bits seen = rays<d>[static_cast<unsigned>(i)] & set;
+        if (seen == 0)
+            return 0;
+        return d < 2 ? seen & (~seen + 1) : bit(highestBit(seen));
+    }
+
+    // All squares in direction d from each square.
+    template <int d>
+    static constexpr std::array<Bits, bitCount> rays = [] {
+        std::array<Bits, bitCount> table{};
+        for (int i = 0; i < bitCount; ++i) {
+            Bits ray = 0;
+            for (Bits at = step<d>(bit(i) & all) & all; at != 0; at = step<d>(at) & all)
+                ray |= at;
+            table[static_cast<unsigned>(i)] = ray;
+        }
+        return table;
+    }();
 
     // The place of each square in the board's table of 12 x 12.
     static constexpr std::array<std::uint8_t, bitCount> sequence = [] {
