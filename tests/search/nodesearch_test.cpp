@@ -1,0 +1,228 @@
+#include "eval/heuristic.h"
+#include "tests/support/enginerig.h"
+
+#include <QTextStream>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(NodeSearch, WhenANodeMayBeValued) {
+    EngineRig rig(Rules::International, board(10));
+    rig.engine->depth = 35; // three levels
+    const struct {
+        int level;
+        int moves;
+        bool may;
+    } cases[] = {{2, 5, false}, {3, 5, true},  {3, 3, true},   {3, 2, false}, {6, 2, false},
+                 {7, 2, true},  {7, 1, false}, {99, 1, false}, {7, 0, false}};
+    for (const auto &c : cases) {
+        rig.engine->moveList.clear();
+        for (int i = 0; i < c.moves; ++i)
+            rig.engine->moveList.append(LegalMove({0, 0}, {1, 1}));
+        EXPECT_EQ(rig.engine->canScore(c.level), c.may) << c.level << ", moves " << c.moves;
+    }
+    EXPECT_TRUE(rig.engine->canScore(3, false));
+    EXPECT_FALSE(rig.engine->canScore(3, true));
+    EXPECT_TRUE(rig.engine->canScore(4, true));
+}
+
+TEST(NodeSearch, MobilityAndPassages) {
+    const struct {
+        const char *rows;
+        int freedom; // for white
+        bool canPass;
+    } cases[] = {{" ...... ...... .w.... ...... ...... ......", 80, true},
+                 {" ...... ...... ...... ..W... ...... ......", 20, false},
+                 {" ...... ....B. ...... ..W... ...... ....B.", -20, false}};
+    for (const auto &c : cases) {
+        for (const char *side : {"w", "b"}) {
+            EngineRig rig(Rules::International, std::string(side) + c.rows);
+            heuristic h;
+            int freedom = 99;
+            bool canPass = !c.canPass;
+            EXPECT_EQ(rig.engine->doHeuristic(&h, freedom, canPass), c.canPass ? &h : nullptr);
+            EXPECT_EQ(freedom, *side == 'w' ? c.freedom : -c.freedom) << c.rows;
+            EXPECT_EQ(canPass, c.canPass);
+        }
+    }
+}
+
+// The side to move is a man up: 1000 and its square's 80.
+TEST(NodeSearch, SenselessSacrifices) {
+    constexpr int none = -1000777;
+    const struct {
+        int alpha;
+        int beta;
+        bool gambit;
+        bool giveAway;
+        bool senseless;
+    } cases[] = {{none, 0, false, false, true},       {none, none, false, false, false},
+                 {none, -499, false, false, true},    {none, -500, false, false, false},
+                 {none, 0, true, false, false},       {none, 500, true, false, true},
+                 {none, 999901, false, false, false}, {-999901, 0, false, false, false},
+                 {none, 1499, false, true, false},    {none, 1500, false, true, true}};
+    for (const auto &c : cases) {
+        EngineRig rig(Rules::International, "w ...... ...... ...... ..w... ...... ......");
+        AbstractEngine::isGambit = c.gambit;
+        rig.statistic.giveAway = c.giveAway;
+        int material = 0;
+        EXPECT_EQ(rig.engine->senseLessSacryfice(Score(c.alpha, 0), Score(c.beta, 0), material),
+                  c.senseless)
+            << c.alpha << " " << c.beta;
+        EXPECT_EQ(rig.statistic.senselessSacrifices, c.senseless ? 1 : 0);
+        EXPECT_TRUE(!c.senseless || material == (c.giveAway ? -1080 : 1080)) << material;
+    }
+}
+
+// A record of value 40 made with beta -50 and alpha -200 at horizon 5.
+TEST(NodeSearch, TableRecordsAnswerWithinTheirWindow) {
+    const struct {
+        int beta;
+        int alpha;
+        int horizon;
+        bool usable;
+        int score;
+    } cases[] = {{-200, -50, 5, true, 40},       {-200, -41, 5, true, 40},
+                 {-200, -40, 5, true, -1000777}, {0, 0, 4, true, -1000777},
+                 {-200, -51, 5, false, 0},       {-201, -50, 5, false, 0},
+                 {-200, -50, 6, false, 0}};
+    for (const auto &c : cases) {
+        EngineRig rig(Rules::International, board(8));
+        board stored(8);
+        stored.hashScore = 40;
+        stored.hashBeta = -50;
+        stored.hashAlpha = -200;
+        stored.hashHorizon = 5;
+        rig.table.insert(&stored);
+        AbstractEngine::absHorizon = c.horizon;
+        board b(8);
+        EXPECT_EQ(rig.engine->canUseHT(&b, c.beta, c.alpha), c.usable) << c.beta << " " << c.alpha;
+        EXPECT_EQ(b.hashScore, c.score);
+        EXPECT_EQ(b.hashHorizon, c.usable ? 5 : -1);
+        EXPECT_EQ(b.hashBeta, c.usable ? -50 : 777);
+        board other(6);
+        EXPECT_FALSE(rig.engine->canUseHT(&other, c.beta, c.alpha));
+    }
+}
+
+// Trees small enough for paper. American kings: 1910 off the centre, 1920 in it, 1815 on a side.
+TEST(NodeSearch, TreesByHand) {
+    const struct {
+        const char *name;
+        XY white;
+        int plies;
+        const char *move;
+        Score score;
+        int nodes;
+        int valued;
+        int generated;
+        const char *line;
+    } cases[] = {{"the centre, and four moves within 30 points",
+                  {4, 2},
+                  1,
+                  "(4,2)-(3,3)",
+                  {31, 1},
+                  6,
+                  4,
+                  24,
+                  "(4,2)->(3,3) 10 \n"},
+                 {"two equal moves: the one examined first",
+                  {2, 0},
+                  1,
+                  "(2,0)-(1,1)",
+                  {0, 1},
+                  4,
+                  2,
+                  12,
+                  "(2,0)->(1,1) 0 \n"},
+                 {"black has two moves as good: 7 points",
+                  {0, 0},
+                  2,
+                  "(0,0)-(1,1)",
+                  {-7, 2},
+                  9,
+                  5,
+                  27,
+                  "(0,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"},
+                 {"the second move is asked for its material first",
+                  {2, 0},
+                  2,
+                  "(2,0)-(1,1)",
+                  {-7, 2},
+                  15,
+                  11,
+                  2 + 10 + 2 + 8 + 32,
+                  "(2,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"}};
+    for (const auto &c : cases) {
+        board b(10);
+        b.clear();
+        b.Get(c.white) = whiteKing;
+        b.squares[1][7] = blackKing;
+        EngineRig rig(Rules::American, b);
+        rig.statistic.setReqDepth(c.plies);
+        EXPECT_EQ(rig.search(), c.move) << c.name;
+        EXPECT_EQ(rig.score.value, c.score.value) << c.name;
+        EXPECT_EQ(rig.score.depth, c.score.depth) << c.name;
+        EXPECT_EQ(rig.statistic.nodes, c.nodes) << c.name;
+        EXPECT_EQ(rig.statistic.scoresCalculated, c.valued) << c.name;
+        EXPECT_EQ(rig.statistic.movesGenerated, c.generated) << c.name;
+        EXPECT_EQ(rig.statistic.maxLevel, c.plies) << c.name;
+        EXPECT_EQ(rig.statistic.cutoffs, 0) << c.name;
+        EXPECT_EQ(rig.lineText(), c.line) << c.name;
+        EXPECT_EQ(rig.position.hashScore, c.score.value);
+        EXPECT_EQ(rig.position.hashHorizon, c.score.depth);
+    }
+}
+
+TEST(NodeSearch, ABrokenNodeReturnsNone) {
+    EngineRig rig(Rules::International, board(10));
+    AbstractEngine::breakThinking = true;
+    rig.line.from[3] = XY(4, 4);
+    Score score(5, 5);
+    EXPECT_EQ(rig.engine->getBestMove(3, score, Score(-1000777, -1), Score(-1000777, -1), rig.line,
+                                      false),
+              nullptr);
+    EXPECT_TRUE(score.isNone());
+    EXPECT_EQ(score.depth, -1);
+    EXPECT_EQ(rig.line.top, 3);
+    EXPECT_EQ(rig.line.from[3], XY(4, 4));
+    EXPECT_EQ(rig.statistic.nodes, 0);
+}
+
+TEST(NodeSearch, Trace) {
+    EngineRig rig(Rules::International, "w ...... ...... ...... ..w... ...... ......");
+    rig.engine->depth = 10;
+    rig.engine->FillMoveList();
+    testing::internal::CaptureStdout();
+    rig.engine->getBestMove(0, rig.score, Score(-1000777, -1), Score(-1000777, -1), rig.line, true);
+    const std::string key = std::to_string(rig.position.HKey());
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "\n thisKey=\t " + key +
+                  " \tlevel=0\t Depth=10 < -1000777, 1000777 >\n"
+                  "m=1/2\t tScore=0\t score=999999\t \n"
+                  "m=0/2\t tScore=0\t score=999999\t \n");
+}
+
+TEST(NodeSearch, FullTreeDump) {
+    EngineRig rig(Rules::International, board(6));
+    rig.engine->depth = 1;
+    QString text;
+    QTextStream stream(&text);
+    rig.engine->genFullTree(stream, 0);
+    stream.flush();
+    EXPECT_EQ(text.count('\n'), 1 + 5) << "the start and the positions after its five moves";
+    QString start;
+    QTextStream startStream(&start);
+    rig.position.toStream(startStream);
+    startStream.flush();
+    EXPECT_TRUE(text.startsWith(start));
+    EXPECT_EQ(rig.statistic.nodes, 6);
+    EXPECT_EQ(rig.statistic.maxLevel, 1);
+    AbstractEngine::breakThinking = true;
+    rig.engine->genFullTree(stream, 0);
+    stream.flush();
+    EXPECT_EQ(text.count('\n'), 6);
+}
+
+} // namespace
