@@ -20,7 +20,7 @@ long residentKb() {
 class SoakTest : public GameTest, public testing::WithParamInterface<std::tuple<int, int>> {};
 
 TEST_P(SoakTest, HundredsOfPliesLeaveOnlyTheHistoryBehind) {
-    constexpr int plies = 400;
+    constexpr int plies = 6000;
     const auto [rules, size] = GetParam();
     game.setRules(rules);
     game.setBSize(size);
