@@ -23,61 +23,32 @@ std::string read(board &b, const std::string &line) {
     return testing::internal::GetCapturedStdout();
 }
 
-// The drawing rows as one word list, white to move.
-std::string whiteToMove(std::initializer_list<const char *> rows) {
-    std::string text = "w";
-    for (const char *row : rows)
-        text += std::string(" ") + row;
-    return text;
-}
-
-TEST(Board, StartPositionsOfAllSizes) {
-    const struct {
-        std::string rows;
-        int pieces;
-    } starts[] = {
-        {whiteToMove({".b.b.b", "b.b.b.", "......", "......", ".w.w.w", "w.w.w."}), 12},
-        {whiteToMove({".b.b.b.b", "b.b.b.b.", ".b.b.b.b", "........", "........", "w.w.w.w.",
-                      ".w.w.w.w", "w.w.w.w."}),
-         24},
-        {whiteToMove({".b.b.b.b.b", "b.b.b.b.b.", ".b.b.b.b.b", "b.b.b.b.b.", "..........",
-                      "..........", ".w.w.w.w.w", "w.w.w.w.w.", ".w.w.w.w.w", "w.w.w.w.w."}),
-         40},
-        {whiteToMove({".b.b.b.b.b.b", "b.b.b.b.b.b.", ".b.b.b.b.b.b", "b.b.b.b.b.b.",
-                      ".b.b.b.b.b.b", "............", "............", "w.w.w.w.w.w.",
-                      ".w.w.w.w.w.w", "w.w.w.w.w.w.", ".w.w.w.w.w.w", "w.w.w.w.w.w."}),
-         60}};
-    for (const auto &start : starts) {
-        const board want = drawn(start.rows);
-        const board b(want.size);
-        EXPECT_EQ(picture(b), picture(want));
-        EXPECT_EQ(b.StaringNumber(), start.pieces);
+TEST(Board, StartPositions) {
+    EXPECT_EQ(picture(board(6)), "w\n.b.b.b\nb.b.b.\n......\n......\n.w.w.w\nw.w.w.\n");
+    EXPECT_EQ(picture(board(0)), "w\n");
+    constexpr int pieces[] = {12, 24, 40, 60};
+    for (int i = 0; i < 4; ++i) {
+        const int size = allSizes[i];
+        board b(12);
+        b.hashScore = 5;
+        b.plyCount = 3;
+        b.startPos(size);
+        EXPECT_EQ(b.hashScore, 5) << "the search record is left alone";
+        EXPECT_EQ(b.plyCount, 0);
+        EXPECT_EQ(b.StaringNumber(), pieces[i]);
         int white = -1;
         int black = -1;
         b.countPieces(white, black);
-        EXPECT_EQ(white, start.pieces / 2);
-        EXPECT_EQ(black, start.pieces / 2);
-        EXPECT_EQ(b.plyCount, 0);
-        EXPECT_EQ(b.hashScore, 0);
-        EXPECT_EQ(b.hashAlpha, 777);
-        EXPECT_EQ(b.hashBeta, 777);
-        EXPECT_EQ(b.hashHorizon, -1);
+        EXPECT_EQ(white, pieces[i] / 2);
+        EXPECT_EQ(black, pieces[i] / 2);
+        for (int x = 0; x < maxBoardSize; ++x) {
+            for (int y = 0; y < maxBoardSize; ++y) {
+                const bool dark = x < size && y < size && (x + y) % 2 == 0;
+                const int code = y < size / 2 - 1 ? whiteMan : y > size / 2 ? blackMan : 0;
+                EXPECT_EQ(b.Get({x, y}), dark ? code : 0) << size << ": " << x << "," << y;
+            }
+        }
     }
-    EXPECT_EQ(picture(board(0)), "w\n");
-}
-
-TEST(Board, StartPosClearsAllButTheSearchRecord) {
-    board b(12);
-    b.hashScore = 5;
-    b.hashHorizon = 9;
-    b.whiteToMove = false;
-    b.plyCount = 3;
-    b.startPos(6);
-    EXPECT_EQ(picture(b), picture(board(6)));
-    EXPECT_EQ(b.squares[11][11], 0);
-    EXPECT_EQ(b.plyCount, 0);
-    EXPECT_EQ(b.hashScore, 5);
-    EXPECT_EQ(b.hashHorizon, 9);
 }
 
 TEST(Board, FewPiecesMakeAGambit) {
@@ -151,10 +122,8 @@ TEST(Board, CopiesAreIndependent) {
     board b(8);
     b.hashBeta = 4;
     board copy(&b);
-    copy.Get({0, 0}) = 0;
-    EXPECT_EQ(b.Get({0, 0}), whiteMan);
-    EXPECT_EQ(copy.hashBeta, 4);
     copy.clear();
+    EXPECT_EQ(b.Get({0, 0}), whiteMan);
     EXPECT_EQ(copy.size, 8);
     EXPECT_EQ(copy.hashBeta, 4);
 }

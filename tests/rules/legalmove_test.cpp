@@ -30,16 +30,6 @@ TEST(LegalMove, Notation) {
     EXPECT_EQ(LegalMove::XYtoString({11, 0}), "(11,0)");
 }
 
-TEST(LegalMove, NewMovesAreUnsearched) {
-    const LegalMove m({0, 0}, {1, 1});
-    EXPECT_EQ(m.score, 0);
-    EXPECT_EQ(m.reduction, 0);
-    EXPECT_EQ(m.subEngine, nullptr);
-    EXPECT_EQ(m.subBoard, nullptr);
-    EXPECT_EQ(m.path, squares({{0, 0}, {1, 1}}));
-    EXPECT_TRUE(m.taken.isEmpty());
-}
-
 TEST(LegalMove, ComparesTheSquaresEnteredSoFar) {
     const struct {
         QArray<XY> part;
@@ -50,7 +40,6 @@ TEST(LegalMove, ComparesTheSquaresEnteredSoFar) {
                  {squares({{1, 1}, {3, 3}}), 1, {5, 1}},
                  {squares({{1, 1}, {3, 3}, {5, 1}}), 2, {-1, -1}},
                  {squares({{1, 1}, {3, 3}, {5, 1}, {7, 3}}), 0, {-1, -1}},
-                 {squares({{1, 3}}), 0, {-1, -1}},
                  {squares({{3, 1}}), 0, {-1, -1}},
                  {squares({{1, 1}, {3, 3}, {5, 5}}), 0, {-1, -1}}};
     for (const auto &c : cases) {
