@@ -8,6 +8,7 @@
 #include "rules/xy.h"
 
 #include <memory>
+#include <vector>
 
 class AbstractEngine;
 class DrCanvas;
@@ -142,7 +143,7 @@ protected:
     fabout *pAbout = nullptr; // child
     SquaresValue squareValues;
     DrCanvasPiece *pieces[maxBoardSize][maxBoardSize] = {}; // [x][y]; null: no piece
-    QArray<DrCanvasPiece *> trash;                          // stack of hidden sprites
+    std::vector<DrCanvasPiece *> trash;                     // stack of hidden sprites
     std::unique_ptr<boardMetrics> pMetrics;
     int whiteComputer = 0; // 1: the computer plays white
     int blackComputer = 0; // 1: the computer plays black

@@ -82,7 +82,7 @@ void Draughts::setBSize(int index) {
     adoptEngine(pEngine->selfClone(pBoard.get(), 1, pStat.get(), squares));
     delete pView;
     pCanvas.reset();
-    trash.resize(0);
+    trash.clear();
     createCanvas();
     CreateCanvasPieces(pCanvas.get(), pBoard.get());
     createView();

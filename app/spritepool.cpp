@@ -22,10 +22,10 @@ void report(const char *text) {
 DrCanvasPiece *Draughts::fromTrash() {
     const int width = pMetrics->SquareWidthB();
     const int height = pMetrics->SquareHeightB();
-    if (trash.isEmpty())
+    if (trash.empty())
         return new DrCanvasPiece(width, height, pCanvas.get(), this, pMetrics.get());
-    DrCanvasPiece *piece = trash.last();
-    trash.resize(trash.size() - 1);
+    DrCanvasPiece *piece = trash.back();
+    trash.pop_back();
     piece->resize(width, height);
     return piece;
 }
@@ -54,7 +54,7 @@ void Draughts::trashAllPieces() {
                 continue;
             piece->hide();
             pCanvas->update();
-            trash.append(std::exchange(piece, nullptr));
+            trash.push_back(std::exchange(piece, nullptr));
         }
     }
     pBoard->clear();
@@ -64,7 +64,7 @@ void Draughts::trashPiece(int x, int y) {
     pBoard->squares[x][y] = 0;
     if (DrCanvasPiece *piece = std::exchange(pieces[x][y], nullptr)) {
         piece->hide();
-        trash.append(piece);
+        trash.push_back(piece);
         pCanvas->markSQ(x, y, MarkNone);
     }
     pCanvas->advance();
