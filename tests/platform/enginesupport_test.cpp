@@ -54,8 +54,6 @@ TEST(QArray, CopiesAndMovesShareNothing) {
             b = upTo(other);
             b = std::move(c);
             EXPECT_EQ(b.size(), n + 1);
-            b = *&b;
-            EXPECT_EQ(b.last(), 99);
         }
     }
     QArray<int> a = upTo(4);
@@ -103,33 +101,8 @@ TEST(QValueList, CopiesShareNothing) {
     EXPECT_EQ(text(list), "a x c d ");
     QValueList<std::string> moved = std::move(copy);
     EXPECT_EQ(text(moved), "a x c d ");
-    moved.swap(list);
-    list = *&list;
-    EXPECT_EQ(list.size(), 4);
-}
-
-TEST(QValueList, RemovesInOrder) {
-    QValueList<std::string> list;
-    for (const char *s : {"a", "-", "b", "-", "-", "c"})
-        list.append(s);
-    list.removeIf([](const std::string &s) { return s == "-"; });
-    EXPECT_EQ(text(list), "a b c ");
-    list.removeIf([](const std::string &) { return true; });
-    EXPECT_TRUE(list.isEmpty());
-}
-
-TEST(QValueList, IteratorsGoBothWays) {
-    QValueList<std::string> list;
-    for (int i = 0; i < 20; ++i)
-        list.append(std::to_string(i));
-    auto it = list.end();
-    for (int i = 19; i >= 0; --i) {
-        --it;
-        EXPECT_EQ(*it, std::to_string(i));
-        EXPECT_EQ(it.index(), i);
-    }
-    EXPECT_TRUE(it == list.begin());
-    EXPECT_EQ((++it)->size(), 1U);
+    moved.removeIf([](const std::string &s) { return s == "a" || s == "c"; });
+    EXPECT_EQ(text(moved), "x d ");
 }
 
 TEST(ElapsedTime, CountsOnTheHostsClock) {
@@ -159,20 +132,6 @@ TEST(Host, WithoutADisplayMessagesGoToStandardError) {
     EXPECT_NEAR(static_cast<double>(host().seed()), static_cast<double>(std::time(nullptr)), 2);
     host().processEvents();
     host().beep();
-}
-
-TEST(Host, AnInstalledHostTakesOverAndGivesBack) {
-    Host *const original = &host();
-    {
-        RecordingHost recording;
-        EXPECT_EQ(&host(), &recording);
-        recording.answer = false;
-        EXPECT_FALSE(host().messageBox(BoxKind::Warning, "t", "x"));
-        EXPECT_EQ(recording.boxes.size(), 1U);
-        EXPECT_EQ(setHost(nullptr), &recording);
-        EXPECT_EQ(&host(), original);
-    }
-    EXPECT_EQ(&host(), original);
 }
 
 } // namespace

