@@ -68,7 +68,10 @@ BenchResult runTask(const BenchTask &task, bool straightforward) {
     BenchResult result;
     result.statistic.scoreNoise = 1;
     result.statistic.giveAway = task.giveAway;
-    result.statistic.setReqDepth(task.depth);
+    if (task.seconds > 0)
+        result.statistic.setReqTime(task.seconds);
+    else
+        result.statistic.setReqDepth(task.depth);
 
     board position = task.position;
     XY::B_SIZE = position.size;
@@ -91,6 +94,7 @@ BenchResult runTask(const BenchTask &task, bool straightforward) {
     if (best != nullptr)
         best->ToString(result.move);
     result.score = score.value;
+    result.depth = engine->depth / 10;
     line.asString(result.line);
     DeepSearch::enable(true);
     AbstractEngine::setSQV(nullptr);

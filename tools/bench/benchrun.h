@@ -13,7 +13,8 @@ struct BenchTask {
     QString name;
     RuleSet rules = RuleSet::International;
     bool giveAway = false;
-    int depth = 1; // plies
+    int depth = 1;   // plies
+    int seconds = 0; // above 0: search that long instead
     board position;
 };
 
@@ -21,6 +22,7 @@ struct BenchResult {
     QString move; // the notation; empty when there is no legal move
     int score = 0;
     QString line; // the principal variation, one move a line
+    int depth = 0; // plies of the last iteration
     thinkStatistic statistic;
     qint64 microseconds = 0;
 };
@@ -36,7 +38,7 @@ QList<BenchTask> readTasks(const QString &text, QString &error);
 // king ending, some played give-away.
 QString builtInTasks();
 
-// Searches the task to its depth without the random term. `straightforward` searches
+// Searches the task to its depth, or for its time, without the random term. `straightforward` searches
 // every node over engines and boards instead of bit sets; the result is the same.
 BenchResult runTask(const BenchTask &task, bool straightforward);
 

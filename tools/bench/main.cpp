@@ -14,6 +14,7 @@ namespace {
 
 struct Options {
     int depth = 0; // 0: each position's own
+    int seconds = 0;
     QString file;
     QString only;
     bool machine = false;
@@ -31,6 +32,8 @@ void describe(QCommandLineParser &parser) {
                               "to its own depth.")
                           .arg(mostDepth),
                       "plies"});
+    parser.addOption({{"t", "time"}, "Search each position so many seconds, as the game's levels do, "
+                                     "and tell the depth reached.", "seconds"});
     parser.addOption({{"p", "positions"},
                       "Read the positions from a file: on each line a name, the rules "
                       "(international, american, polish), normal or giveaway, the depth in plies, "
@@ -57,6 +60,9 @@ QString readOptions(const QCommandLineParser &parser, Options &options) {
             .arg(mostDepth)
             .arg(parser.value("depth"));
     }
+    options.seconds = parser.value("time").toInt();
+    if (parser.isSet("time") && options.seconds < 1)
+        return QString("the time must be a number of seconds, not \"%1\"").arg(parser.value("time"));
     if (!parser.positionalArguments().isEmpty())
         return QString("unexpected argument \"%1\"").arg(parser.positionalArguments().first());
     options.file = parser.value("positions");
@@ -81,8 +87,10 @@ void printPerson(QTextStream &out, const BenchTask &task, const BenchResult &res
     out << qSetFieldWidth(34) << Qt::left << task.name << qSetFieldWidth(16) << result.move
         << Qt::right << qSetFieldWidth(9) << result.score << qSetFieldWidth(12)
         << result.statistic.nodes << qSetFieldWidth(10) << result.microseconds / 1000
-        << qSetFieldWidth(0) << " ms\n"
-        << Qt::flush;
+        << qSetFieldWidth(0) << " ms";
+    if (task.seconds > 0)
+        out << "  depth " << result.depth;
+    out << '\n' << Qt::flush;
 }
 
 void printMachine(QTextStream &out, const BenchTask &task, const BenchResult &result) {
@@ -149,8 +157,10 @@ int main(int argc, char **argv) {
     keepOnly(options.only, tasks);
     if (tasks.isEmpty())
         return fail("no positions to search");
-    for (BenchTask &task : tasks)
+    for (BenchTask &task : tasks) {
         task.depth = options.depth > 0 ? options.depth : task.depth;
+        task.seconds = options.seconds;
+    }
     run(tasks, options);
     return 0;
 }
