@@ -37,15 +37,11 @@ public:
           men_(own_ & ~p.kings), empty_(p.empty()) {}
 
     // Some own piece can capture.
-    bool canCapture() const { return manCapturers() != 0 || kingsCanCapture(); }
+    bool canCapture() { return manCapturers() != 0 || surveyKings(); }
 
-    // Number of non-capturing moves.
+    // Number of non-capturing moves, when canCapture() has found no capture.
     int countQuiet() const {
-        int count = countBits(left() & empty_) + countBits(right() & empty_);
-        if (kings_ == 0)
-            return count;
-        forEachDirection([&](auto d) { count += countBits(kingView<d>()); });
-        return count;
+        return countBits(left() & empty_) + countBits(right() & empty_) + kingMoves_;
     }
 
     // Appends the non-capturing moves: by piece in square order; a man's left target first, a
@@ -53,18 +49,20 @@ public:
     void listQuiet(Stack &stack) const {
         constexpr int toLeft = White ? Squares::half : Squares::half + 1;
         constexpr int toRight = White ? Squares::half + 1 : Squares::half;
-        const Bits leftTargets = left() & empty_;
-        const Bits rightTargets = right() & empty_;
-        for (Bits rest = own_; rest != 0;) {
+        constexpr int leftward = White ? 3 : 2;
+        constexpr int rightward = White ? 0 : 1;
+        const Bits canLeft =
+            men_ & Squares::template step<oppositeDirection(leftward)>(left() & empty_);
+        const Bits canRight =
+            men_ & Squares::template step<oppositeDirection(rightward)>(right() & empty_);
+        for (Bits rest = canLeft | canRight | kings_; rest != 0;) {
             const int from = takeLowest(rest);
-            if ((kings_ >> from & 1) != 0) {
-                listKing(stack, from);
-                continue;
-            }
-            if (from >= toLeft && (leftTargets >> (from - toLeft) & 1) != 0)
+            if (hasBit(canLeft, from))
                 append(stack, from, from - toLeft, 0);
-            if ((rightTargets >> (from + toRight) & 1) != 0)
+            if (hasBit(canRight, from))
                 append(stack, from, from + toRight, 0);
+            if (hasBit(kings_, from))
+                listKing(stack, from);
         }
     }
 
@@ -133,16 +131,18 @@ private:
         return view;
     }
 
-    bool kingsCanCapture() const {
+    // Counts the kings' non-capturing moves; true when some king can capture.
+    bool surveyKings() {
         if (kings_ == 0)
             return false;
-        if constexpr (!Rules.flyingKings)
-            return jumpers<true>(kings_) != 0;
         Bits hit = 0;
         forEachDirection([&](auto d) {
             constexpr int back = oppositeDirection(d);
+            const Bits view = kingView<d>();
+            const Bits from = Rules.flyingKings ? kings_ | view : kings_;
             const Bits victims = enemy_ & Squares::template step<back>(empty_);
-            hit |= Squares::template step<d>(kings_ | kingView<d>()) & victims;
+            hit |= Squares::template step<d>(from) & victims;
+            kingMoves_ += countBits(view);
         });
         return hit != 0;
     }
@@ -243,6 +243,7 @@ private:
     const Bits kings_;
     const Bits men_;
     const Bits empty_;
+    int kingMoves_ = 0;
     Bits landing_ = 0; // empty squares, and the capturing piece's start square
     int from_ = 0;
     std::size_t first_ = 0; // of this listing's captures on the stack

@@ -60,14 +60,9 @@ struct BitPosition {
         b.clear();
         for (Bits rest = white | black; rest != 0;) {
             const int i = takeLowest(rest);
-            const XY square = Squares::squareOf(i);
-            b.Get(square) = static_cast<unsigned char>(codeAt(i));
+            b.Get(Squares::squareOf(i)) =
+                static_cast<unsigned char>(codeOf(hasBit(black, i), hasBit(kings, i)));
         }
-    }
-
-    int codeAt(int i) const {
-        static_assert(whiteMan == 5 && whiteKing == 6 && blackMan == 9 && blackKing == 10);
-        return whiteMan + 4 * static_cast<int>(black >> i & 1) + static_cast<int>(kings >> i & 1);
     }
 
     Bits occupied() const { return white | black; }
@@ -92,15 +87,19 @@ struct BitPosition {
         constexpr int lastSquare = maxBoardSize * maxBoardSize - 1;
         std::uint32_t low = whiteToMove ? 1 : 0;
         int square = -1;
-        for (Bits rest = white | black; rest != 0;) {
-            const int i = takeLowest(rest);
-            const int at = Squares::sequence[static_cast<unsigned>(i)];
-            low = rotate31(low, at - square);
-            square = at;
-            const auto code = static_cast<std::uint32_t>(codeAt(i));
-            if (at == lastSquare)
-                return withTopBit(low, code);
-            low = ((low ^ code) + ((low & code & 1) << 1)) & mask31;
+        for (int w = 0; w < wordsOf(white); ++w) {
+            const std::uint64_t blackWord = word(black, w);
+            const std::uint64_t kingsWord = word(kings, w);
+            for (std::uint64_t rest = word(white, w) | blackWord; rest != 0;) {
+                const int i = takeLowest(rest);
+                const int at = Squares::sequence[static_cast<unsigned>(64 * w + i)];
+                low = rotate31(low, at - square);
+                square = at;
+                const std::uint32_t code = codeOf(hasBit(blackWord, i), hasBit(kingsWord, i));
+                if (N == maxBoardSize && at == lastSquare)
+                    return withTopBit(low, code);
+                low = ((low ^ code) + ((low & code & 1) << 1)) & mask31;
+            }
         }
         low = rotate31(low, lastSquare - square);
         return low | low << 31;
@@ -122,6 +121,10 @@ struct BitPosition {
 private:
     static constexpr std::uint32_t mask31 = 0x7fffffff;
 
+    static constexpr std::uint32_t codeOf(bool isBlack, bool isKing) {
+        static_assert(whiteMan == 5 && whiteKing == 6 && blackMan == 9 && blackKing == 10);
+        return whiteMan + 4U * (isBlack ? 1 : 0) + (isKing ? 1 : 0);
+    }
     static std::uint32_t rotate31(std::uint32_t low, int by) {
         while (by > 31)
             by -= 31;

@@ -82,6 +82,29 @@ constexpr int takeLowest(Bits &set) {
     return index;
 }
 
+// Whether bit i is in the set.
+constexpr bool hasBit(std::uint64_t set, int i) {
+    return (set >> i & 1) != 0;
+}
+constexpr bool hasBit(DoubleWord set, int i) {
+    const auto word = static_cast<std::uint64_t>(i < 64 ? set : set >> 64);
+    return (word >> (i & 63) & 1) != 0;
+}
+
+// The machine words of a set, the lowest first.
+constexpr int wordsOf(std::uint64_t) {
+    return 1;
+}
+constexpr int wordsOf(DoubleWord) {
+    return 2;
+}
+constexpr std::uint64_t word(std::uint64_t set, int) {
+    return set;
+}
+constexpr std::uint64_t word(DoubleWord set, int index) {
+    return static_cast<std::uint64_t>(index == 0 ? set : set >> 64);
+}
+
 constexpr int oppositeDirection(int d) {
     return (d + 2) % 4;
 }

@@ -111,15 +111,16 @@ private:
             first, [&](unsigned int at) { return !isNew && pieces_[at] == p; }, slot);
     }
 
-    static std::uint64_t fold(std::uint64_t set) { return set; }
-    static std::uint64_t fold(DoubleWord set) {
-        return static_cast<std::uint64_t>(set) ^
-               std::rotl(static_cast<std::uint64_t>(set >> 64) * 0x9e3779b97f4a7c15U, 32);
-    }
     static std::size_t hash(const BitPosition<N> &p) {
-        const std::uint64_t mixed = fold(p.white) * 0xbf58476d1ce4e5b9U ^
-                                    fold(p.black) * 0x94d049bb133111ebU ^
-                                    fold(p.kings) * 0xd6e8feb86659fd93U;
+        std::uint64_t mixed = word(p.white, 0) * 0xbf58476d1ce4e5b9U ^
+                              word(p.black, 0) * 0x94d049bb133111ebU ^
+                              word(p.kings, 0) * 0xd6e8feb86659fd93U;
+        if constexpr (wordsOf(decltype(p.white)()) == 2) {
+            // The few squares of the second words side by side.
+            const std::uint64_t rest =
+                word(p.white, 1) | word(p.black, 1) << 20 | word(p.kings, 1) << 40;
+            mixed ^= rest * 0xa0761d6478bd642fU;
+        }
         return mixed * 0x9e3779b97f4a7c15U >> 32;
     }
 

@@ -80,7 +80,7 @@ BENCHMARK_CAPTURE(listOverBits, kingCaptures, Kind::KingCaptures);
 void countOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
     for (auto _ : state) {
-        const Generator generator(p);
+        Generator generator(p);
         benchmark::DoNotOptimize(generator.canCapture() ? 0 : generator.countQuiet());
     }
 }
