@@ -80,8 +80,8 @@ void Draughts::createGame() {
     } else {
         pBoard->startPos(pMetrics->size);
     }
-    adoptEngine(fallbackRules()(pBoard.get(), initialDepth, pStat.get(), pMetrics->size));
-    pStat->setReqTime(fallbackLevel().seconds);
+    adoptEngine(newEngine(fallbackRules, pBoard.get(), initialDepth, pStat.get(), pMetrics->size));
+    pStat->setReqTime(fallbackLevel.seconds);
     if (pEngine == nullptr) {
         host().messageBox(BoxKind::Warning, QStringLiteral("Draughts::Draughts"),
                           QStringLiteral("new engine(board*) failed"));

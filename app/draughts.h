@@ -161,6 +161,7 @@ private:
 
     // A search or a flight is running, or the window is closed: the game may not be touched.
     bool isBusy() const { return thinking || flying || closed; }
+    bool isComputersTurn() const;
 
     // Turn flow.
     LegalMove *searchMove();

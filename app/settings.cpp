@@ -57,13 +57,12 @@ void reportUnknown(const char *title, const char *text) {
 void Draughts::setRules(int index) {
     if (isBusy())
         return;
-    EngineMaker make = rulesChoice(index);
     pEngine.reset();
-    if (make == nullptr) {
+    const std::optional<RuleSet> rules = rulesChoice(index);
+    if (!rules.has_value())
         reportUnknown("Draughts::setRules", "unknown rules, using international");
-        make = fallbackRules();
-    }
-    adoptEngine(make(pBoard.get(), 1, pStat.get(), pMetrics->size));
+    adoptEngine(newEngine(rules.value_or(fallbackRules), pBoard.get(), 1, pStat.get(),
+                          pMetrics->size));
     pEngine->FillMoveList();
 }
 
@@ -71,11 +70,10 @@ void Draughts::setRules(int index) {
 void Draughts::setBSize(int index) {
     if (isBusy())
         return;
-    int squares = squaresChoice(index);
-    if (squares == 0) {
+    const std::optional<int> choice = squaresChoice(index);
+    if (!choice.has_value())
         reportUnknown("Draughts::setRules", "unknown size, using international");
-        squares = fallbackSquares();
-    }
+    const int squares = choice.value_or(fallbackSquares);
     pMetrics->size = squares;
     XY::B_SIZE = squares;
     pBoard->startPos(squares);
@@ -93,17 +91,17 @@ void Draughts::setBSize(int index) {
 }
 
 void Draughts::setLevel(int index) {
-    const Level *level = levelChoice(index);
-    if (level == nullptr) {
+    const std::optional<Level> choice = levelChoice(index);
+    if (!choice.has_value()) {
         reportUnknown("Draughts::setLevel", "unknown value, using default");
-        level = &fallbackLevel();
         pSettings->cmbLevel->setCurrentIndex(fiveSecondsItem);
     }
-    if (level->plies > 0)
-        pStat->setReqDepth(level->plies);
+    const Level level = choice.value_or(fallbackLevel);
+    if (level.plies > 0)
+        pStat->setReqDepth(level.plies);
     else
-        pStat->setReqTime(level->seconds);
-    pStat->scoreNoise = level->scoreNoise;
+        pStat->setReqTime(level.seconds);
+    pStat->scoreNoise = level.scoreNoise;
 }
 
 void Draughts::setGiveAway(bool on) {

@@ -32,11 +32,15 @@ void Draughts::DoPlayerMove() {
     labelScore->setText(QStringLiteral("%1/%2").arg(white).arg(black));
     if (pBoard->whiteToMove)
         testPieces();
-    if ((pBoard->whiteToMove ? whiteComputer : blackComputer) == 1)
+    if (isComputersTurn())
         computerMove();
     else
         waitUser();
     --nestLevel;
+}
+
+bool Draughts::isComputersTurn() const {
+    return (pBoard->whiteToMove ? whiteComputer : blackComputer) == 1;
 }
 
 void Draughts::computerMove() {
@@ -83,9 +87,9 @@ void Draughts::showThinking() {
 // the player takes over.
 void Draughts::giveTurnToPlayer() {
     pBoard->whiteToMove = !pBoard->whiteToMove;
-    restoreControls();
     pSettings->cmbPlayers->setCurrentIndex(humanComputer);
     setPlayersByChoice(humanComputer);
+    restoreControls();
     waitUser();
 }
 
@@ -106,6 +110,7 @@ void Draughts::waitUser() {
 }
 
 void Draughts::gameOver() {
+    btnBreak->hide();
     btnForce->setEnabled(false);
     connect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame, Qt::UniqueConnection);
     disconnect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput);
@@ -121,8 +126,11 @@ void Draughts::lockControls() {
         button->setEnabled(false);
 }
 
+// BREAK stays while the computer moves on: hidden for a moment only, it would lose a click of which
+// the press has come and the release has not.
 void Draughts::restoreControls() {
-    btnBreak->hide();
+    if (!isComputersTurn())
+        btnBreak->hide();
     btnAbout->show();
     for (QPushButton *button : {btnAbout, btnForce, btnSettings, btnNewGame})
         button->setEnabled(true);

@@ -13,7 +13,8 @@ inline constexpr RuleSet allRuleSets[] = {RuleSet::International, RuleSet::Ameri
                                           RuleSet::Polish};
 inline constexpr int allBoardSizes[] = {6, 8, 10, 12};
 
-// A new engine of the rule set; the caller owns it. Arguments as AbstractEngine's constructor.
+// A new engine of the rule set, null when there is no memory; the caller owns it. Arguments as
+// AbstractEngine's constructor.
 AbstractEngine *newEngine(RuleSet rules, board *b, int depth, thinkStatistic *stat, int size);
 
 #endif
