@@ -1,0 +1,161 @@
+// The forms by themselves: what the player reads on them and what the game relies on.
+
+#include "forms/fabout.h"
+#include "forms/formsettings.h"
+#include "forms/formstat.h"
+#include "forms/mainform.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+#include <QToolTip>
+
+namespace {
+
+struct Forms : testing::Test {
+    MainForm game;
+    formsettings settings;
+    formStat figures;
+    fabout about;
+};
+
+TEST_F(Forms, HaveTheirNamesAndSizes) {
+    const struct {
+        QWidget &form;
+        const char *name, *title;
+        QSize size, smallest, largest;
+    } cases[] = {
+        {game, "MainForm", "tavlora v1.0.3", {240, 320}, {240, 310}, {240, 320}},
+        {settings, "fsettings", "settings", {209, 170}, {}, {240, 300}},
+        {figures, "formStat", "statistic", {169, 233}, {50, 50}, {900, 900}},
+        {about, "fabout", "About", {220, 224}, {220, 200}, {220, 260}},
+    };
+    for (const auto &[form, name, title, size, smallest, largest] : cases) {
+        EXPECT_EQ(form.objectName(), name);
+        EXPECT_EQ(form.windowTitle(), title);
+        EXPECT_EQ(form.size(), size) << name;
+        form.resize(900, 900);
+        EXPECT_EQ(form.size(), largest) << name;
+        form.resize(50, 50);
+        EXPECT_TRUE(smallest.isEmpty() || form.size() == smallest) << name;
+        EXPECT_FALSE(form.isModal());
+    }
+    EXPECT_TRUE(fabout(nullptr, nullptr, true).isModal());
+    EXPECT_EQ(MainForm(nullptr, "other").objectName(), "other");
+}
+
+TEST_F(Forms, CutOffNoTextAndNoPicture) {
+    for (QWidget *form : {static_cast<QWidget *>(&game), static_cast<QWidget *>(&settings),
+                          static_cast<QWidget *>(&figures), static_cast<QWidget *>(&about)}) {
+        form->show();
+        QApplication::processEvents();
+        for (const auto *label : form->findChildren<QLabel *>()) {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+            EXPECT_TRUE(form->rect().contains(label->geometry())) << label->text().toStdString();
+            if (!label->wordWrap() && label != game.labelScore) {
+                EXPECT_LE(label->sizeHint().width(), label->width()) << label->text().toStdString();
+            }
+        }
+        for (const auto *button : form->findChildren<QPushButton *>()) {
+            EXPECT_LT(button->fontMetrics().horizontalAdvance(button->text()), button->width() - 4);
+            EXPECT_GE(button->width(), 20);
+        }
+        for (const auto *combo : form->findChildren<QComboBox *>())
+            EXPECT_GE(combo->width(), combo->minimumSizeHint().width());
+    }
+    EXPECT_LE(game.labelScore->fontMetrics().horizontalAdvance("20/20"), 34);
+    EXPECT_EQ(about.PixmapLabel1->size(), QSize(80, 81));
+    EXPECT_EQ(game.btnForce->geometry(), QRect(130, 235, 60, 22));
+}
+
+TEST_F(Forms, SetTheirFontsAgainWhenTheApplicationsChanges) {
+    const struct {
+        QWidget *widget;
+        int points;
+        bool bold;
+    } cases[] = {
+        {game.btnPrev, 8, false},     {game.btnFwd, 9, false},
+        {game.lblThinking, 15, true}, {settings.TextLabel1, 9, false},
+        {settings.cmbSize, 9, false}, {settings.cmbPlayers, 15, false},
+        {about.TextLabel1, 15, true}, {about.TextLabel6, 10, false},
+        {figures.llTime, 15, true},   {figures.lNodes, 15, false},
+    };
+    for (const auto &c : cases) {
+        QFont large = QApplication::font();
+        large.setPointSize(15);
+        large.setItalic(true);
+        c.widget->setFont(large);
+        QEvent change(QEvent::ApplicationFontChange);
+        QApplication::sendEvent(c.widget->window(), &change);
+        const QFont font = c.widget->font();
+        EXPECT_EQ(font.pointSize(), c.points) << c.widget->objectName().toStdString();
+        EXPECT_EQ(font.bold(), c.bold) << c.widget->objectName().toStdString();
+        EXPECT_TRUE(font.italic()) << "one property is set, the others stay";
+    }
+    EXPECT_EQ(about.TextLabel1->font().family(), "adobe-helvetica");
+}
+
+TEST_F(Forms, SettingsOfferEveryChoiceAndFollowThePlayerOnly) {
+    const struct {
+        QComboBox *combo;
+        const char *items;
+        int current;
+        const int *field;
+    } rows[] = {
+        {settings.cmbRules, "International|American|Polish Traditional", 0, &settings.rulesIndex},
+        {settings.cmbSize, "6 for fun|8 checkers,brazylian|10 international|12 canadian", 2,
+         &settings.sizeIndex},
+        {settings.cmbLevel,
+         "Easy 1|Easy 2|2 sec/move|5 sec/move|10 sec/move|20 sec/move|1 min/move|"
+         "infinite (until break)",
+         3, &settings.levelIndex},
+    };
+    settings.show();
+    for (const auto &[combo, items, current, field] : rows) {
+        QStringList texts;
+        for (int i = 0; i < combo->count(); ++i)
+            texts << combo->itemText(i);
+        EXPECT_EQ(texts.join('|'), items);
+        EXPECT_EQ(combo->currentIndex(), current);
+        combo->setCurrentIndex(0);
+        EXPECT_EQ(*field, current) << "set by the program";
+        combo->showPopup();
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+        QTest::keyClick(combo->view(), Qt::Key_Return);
+        EXPECT_EQ(*field, 1) << items;
+    }
+    EXPECT_EQ(settings.cmbPlayers->itemText(1), "Human-Human");
+    for (const bool given : {true, false}) {
+        QTest::mouseClick(settings.chGiveAway, Qt::LeftButton, {}, QPoint(6, 6));
+        settings.setGiveAway(Qt::PartiallyChecked);
+        EXPECT_EQ(settings.giveAway, given) << "the undecided state changes nothing";
+    }
+    settings.setDefaults();
+    for (const auto &row : rows)
+        EXPECT_EQ(row.combo->currentIndex() * 10 + *row.field, row.current * 11) << row.items;
+}
+
+TEST_F(Forms, TellTheProgramsNameAndWhatTheCountsAre) {
+    EXPECT_EQ(about.TextLabel1->text(), "Tavlora v 1.0.3");
+    const QImage drawing = about.PixmapLabel1->pixmap(Qt::ReturnByValue).toImage();
+    QSet<QRgb> colours;
+    for (int at = 0; at < 80 * 81; ++at)
+        colours.insert(drawing.pixel(at % 80, at / 80));
+    EXPECT_EQ(colours.size(), 186);
+    game.show();
+    const QPoint centre = game.labelScore->rect().center();
+    QHelpEvent hover(QEvent::ToolTip, centre, game.labelScore->mapToGlobal(centre));
+    QApplication::sendEvent(game.labelScore, &hover);
+    EXPECT_EQ(QToolTip::text(), "On Board");
+    QToolTip::hideText();
+}
+
+} // namespace
