@@ -3,7 +3,6 @@
 #include "tests/app/gamerig.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTimer>
 
 namespace {
@@ -70,7 +69,7 @@ TEST_F(GameTest, ForceMoveBetweenTwoPeopleBringsTheComputerIn) {
 TEST_F(GameTest, NewGameAsksOnlyWhenThereIsAGameToLose) {
     press(game.btnNewGame);
     EXPECT_EQ(boxes(), "");
-    taps({{5, 3}, {4, 4}});
+    taps("53 44");
     land(2);
     const std::string played = picture(*game.pBoard);
     host.answer = false;
@@ -84,49 +83,39 @@ TEST_F(GameTest, NewGameAsksOnlyWhenThereIsAGameToLose) {
     expectAgreement();
 }
 
-// Closing, as the window's close button does it, at the worst moments. The event loop ends with
+// Closing, as the window's close button does it, at the worst moments: the event loop ends with
 // status 0 well within a second, and the game stays as it was.
-struct Closing {
-    const char *moment;
-    std::function<void(OpenGame &, RecordingHost &)> act;
+class ClosingTest : public GameTest {
+protected:
+    void closesAtOnce(const std::function<void()> &act) {
+        QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &game, &QCoreApplication::quit);
+        game.setLevel(infinite);
+        QTimer::singleShot(0, &game, act);
+        QTimer::singleShot(1000, &game, [] { QCoreApplication::exit(1); });
+        EXPECT_EQ(QCoreApplication::exec(), 0);
+        EXPECT_EQ(game.pBoard->plyCount, 0);
+        EXPECT_FALSE(game.pHist->canPrev());
+    }
 };
 
-class ClosingTest : public GameTest, public testing::WithParamInterface<Closing> {};
-
-TEST_P(ClosingTest, EndsTheProgramAtOnce) {
-    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &game, &QCoreApplication::quit);
-    game.setLevel(infinite);
-    QElapsedTimer clock;
-    QTimer::singleShot(0, &game, [&] { GetParam().act(game, host); });
-    QTimer::singleShot(5000, &game, [] { QCoreApplication::exit(1); });
-    clock.start();
-    EXPECT_EQ(QCoreApplication::exec(), 0);
-    EXPECT_LT(clock.elapsed(), 1000);
-    EXPECT_EQ(game.pBoard->plyCount, 0);
-    EXPECT_FALSE(game.pHist->canPrev());
+TEST_F(ClosingTest, WhileThinking) {
+    duringSearch(host, [this] { game.close(); });
+    closesAtOnce([this] { press(game.btnForce); });
 }
 
-INSTANTIATE_TEST_SUITE_P(AtTheWorstMoment, ClosingTest,
-                         testing::Values(Closing{"thinking",
-                                                 [](OpenGame &game, RecordingHost &host) {
-                                                     duringSearch(host, [&game] { game.close(); });
-                                                     game.forceMove();
-                                                 }},
-                                         Closing{"flying",
-                                                 [](OpenGame &game, RecordingHost &) {
-                                                     game.userInput(5, 3, false);
-                                                     game.userInput(4, 4, false);
-                                                     game.close();
-                                                     for (int step = 0; step < 20; ++step)
-                                                         game.pCanvas->advance();
-                                                 }},
-                                         Closing{"settings open, both sides the computer's",
-                                                 [](OpenGame &game, RecordingHost &) {
-                                                     game.pSettings->cmbPlayers->setCurrentIndex(
-                                                         computers);
-                                                     QTimer::singleShot(50, &game, &QWidget::close);
-                                                     game.showSettings();
-                                                 }}),
-                         [](const auto &moment) {
-                             return std::string("Moment") + std::to_string(moment.index);
-                         });
+TEST_F(ClosingTest, InFlight) {
+    closesAtOnce([this] {
+        taps("53 44");
+        game.close();
+        for (int step = 0; step < 20; ++step)
+            game.pCanvas->advance();
+    });
+}
+
+TEST_F(ClosingTest, WithSettingsOpenAndBothSidesTheComputers) {
+    closesAtOnce([this] {
+        game.pSettings->cmbPlayers->setCurrentIndex(computers);
+        QTimer::singleShot(50, &game, &QWidget::close);
+        game.showSettings();
+    });
+}

@@ -7,9 +7,9 @@
 #include "tools/demo/xdisplay.h"
 #endif
 
+#ifdef HAVE_XDISPLAY
 namespace {
 
-#ifdef HAVE_XDISPLAY
 class ReleaseSpy : public QObject {
 public:
     ReleaseSpy() { qApp->installEventFilter(this); }
@@ -21,16 +21,9 @@ protected:
         return false;
     }
 };
-#endif
-
-std::string texts(const std::vector<std::string> &parts) {
-    std::string text;
-    for (const std::string &part : parts)
-        text += (text.empty() || part.empty() ? "" : " ") + part;
-    return text;
-}
 
 } // namespace
+#endif
 
 void LiveHost::processEvents() {
     QCoreApplication::processEvents();
@@ -71,12 +64,12 @@ void GameTest::tap(int x, int y) {
           QPoint(m.BxToScr(x) + m.SquareWidthB() / 2, m.ByToScr(y) + m.SquareHeightB() / 2));
 }
 
-void GameTest::taps(const std::vector<XY> &squares) {
-    for (const XY &square : squares)
-        tap(square.x, square.y);
+void GameTest::taps(const std::string &squares) {
+    for (std::size_t i = 0; i < squares.size(); i += 3)
+        tap(squares[i] - '0', squares[i + 1] - '0');
 }
 
-void GameTest::place(const char *drawing, int players) {
+void GameTest::place(const std::string &drawing, int players) {
     const board position = drawn(drawing);
     ASSERT_EQ(position.size, game.pMetrics->size);
     game.trashAllPieces();
@@ -130,25 +123,24 @@ std::string GameTest::boxes() {
 
 std::string GameTest::status() const {
     const QString state = game.lblThinking->isVisible() ? game.lblThinking->text() : QString();
-    std::vector<std::string> parts = {'[' + state.toStdString() + ']',
-                                      game.labelScore->text().toStdString()};
+    QStringList parts = {'[' + state + ']', game.labelScore->text()};
     for (const QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnBreak,
-                                      game.btnForce, game.btnSettings, game.btnNewGame})
-        parts.push_back(button->isVisible() && button->isEnabled()
-                            ? button->objectName().mid(3).toStdString()
-                            : "");
-    return texts(parts);
+                                      game.btnForce, game.btnSettings, game.btnNewGame}) {
+        if (button->isVisible() && button->isEnabled())
+            parts << button->objectName().mid(3);
+    }
+    return parts.join(' ').toStdString();
 }
 
 std::string GameTest::marked(MarkType mark) const {
-    std::vector<std::string> squares;
+    QStringList squares;
     for (int x = 0; x < game.pMetrics->size; ++x) {
-        for (int y = 0; y < game.pMetrics->size; ++y) {
-            if (game.pCanvas->isMarked(x, y) == mark && (x + y) % 2 == 0)
-                squares.push_back(LegalMove::XYtoString({x, y}).toStdString());
+        for (int y = x % 2; y < game.pMetrics->size; y += 2) {
+            if (game.pCanvas->isMarked(x, y) == mark)
+                squares << LegalMove::XYtoString({x, y});
         }
     }
-    return texts(squares);
+    return squares.join(' ').toStdString();
 }
 
 std::string GameTest::shown() const {

@@ -61,10 +61,10 @@ protected:
     void press(QWidget *widget, QPoint at);
     void press(QPushButton *button) { press(button, button->rect().center()); }
     void tap(int x, int y);
-    void taps(const std::vector<XY> &squares);
+    void taps(const std::string &squares); // "53 44": column and row
 
     // A position in place of the running game, played by `players`; the turn is handed over.
-    void place(const char *drawing, int players = humans);
+    void place(const std::string &drawing, int players = humans);
     // Runs the flight, and what follows it, until so many moves are completed.
     void land(int moves = 1);
 

@@ -1,43 +1,13 @@
-// The history of positions, and stepping through the game with it.
+// Stepping through the history of the game.
 
 #include "tests/app/gamerig.h"
 
 #include <QSignalSpy>
 
-TEST(GameHist, KeepsPositionsAroundACursor) {
-    gameHist history;
-    QSignalSpy atEnd(&history, &gameHist::noNext);
-    QSignalSpy atStart(&history, &gameHist::noPrevious);
-    EXPECT_EQ(history.getBoard(), nullptr);
-    EXPECT_FALSE(history.prev() || history.next() || history.canPrev() || history.canFwd());
-    EXPECT_EQ(atEnd.count() + atStart.count(), 2);
-
-    board b(10);
-    for (b.plyCount = 0; b.plyCount < 4; ++b.plyCount)
-        history.insert(&b);
-    const board *last = history.getBoard();
-    EXPECT_EQ(last->plyCount, 3);
-    EXPECT_TRUE(history.prev() && history.prev());
-    EXPECT_TRUE(history.next() && history.next());
-    EXPECT_EQ(history.getBoard(), last) << "copies stay where they are";
-    EXPECT_TRUE(history.prev() && history.prev() && history.prev());
-    EXPECT_FALSE(history.prev() || history.canPrev());
-    EXPECT_EQ(atStart.count(), 2);
-    EXPECT_TRUE(history.canFwd() && history.next());
-
-    history.insert(&b);
-    EXPECT_EQ(history.getBoard()->plyCount, 4);
-    EXPECT_FALSE(history.canFwd() || history.next());
-    EXPECT_TRUE(history.prev() && history.prev());
-    EXPECT_FALSE(history.canPrev());
-    history.clear();
-    EXPECT_EQ(history.getBoard(), nullptr);
-}
-
 TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
     std::vector<std::string> positions = {picture(*game.pBoard)};
     game.setLevel(1);
-    for (const std::vector<XY> &move : {std::vector<XY>{{5, 3}, {4, 4}}, {{4, 2}, {5, 3}}}) {
+    for (const char *move : {"53 44", "42 53"}) {
         if (game.lblThinking->text() != QLatin1String("Your Move"))
             break;
         taps(move);
@@ -56,7 +26,9 @@ TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
         expectAgreement();
     }
     EXPECT_EQ(status(), "[Your Move] 20/20 Fwd About Force Settings NewGame");
+    QSignalSpy atStart(game.pHist.get(), &gameHist::noPrevious);
     game.histPrev();
+    EXPECT_EQ(atStart.count(), 1);
     EXPECT_EQ(picture(*game.pBoard), positions[0]);
     for (std::size_t at = 1; at <= end; ++at) {
         tap(5, 3);
@@ -65,13 +37,15 @@ TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
         EXPECT_EQ(marked(MarkNext), "");
     }
     EXPECT_FALSE(game.btnFwd->isEnabled());
+    QSignalSpy atEnd(game.pHist.get(), &gameHist::noNext);
     game.histFwd();
+    EXPECT_EQ(atEnd.count(), 1);
     EXPECT_EQ(picture(*game.pBoard), positions[end]);
 
     // A new move from the start replaces all that followed.
     for (std::size_t at = end; at-- > 0;)
         press(game.btnPrev);
-    taps({{1, 3}, {2, 4}});
+    taps("13 24");
     land(2);
     EXPECT_FALSE(game.btnFwd->isEnabled());
     press(game.btnPrev);

@@ -5,20 +5,9 @@
 #include "app/format1000.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 
+#include <algorithm>
 #include <climits>
-
-TEST_F(GameTest, UnchangedSettingsHandTheTurnOverAgain) {
-    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
-        tap(5, 3);
-        settings(button);
-        EXPECT_EQ(marked(MarkNext), "");
-        EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
-        tap(4, 4);
-        EXPECT_FALSE(game.flying) << "the move half entered is dropped";
-    }
-}
 
 TEST_F(GameTest, SettingsAreRejectedOrAcceptedAsAWhole) {
     const auto change = [this](formsettings &dialog) {
@@ -28,17 +17,18 @@ TEST_F(GameTest, SettingsAreRejectedOrAcceptedAsAWhole) {
         choose(dialog.cmbPlayers, humans);
         press(dialog.chGiveAway, QPoint(5, dialog.chGiveAway->height() / 2));
     };
-    taps({{5, 3}, {4, 4}});
+    taps("53 44");
     land(2);
     const std::string before = picture(*game.pBoard) + status();
+    tap(3, 3);
     settings(QDialogButtonBox::Cancel, change);
+    EXPECT_EQ(marked(MarkNext), "") << "the move half entered is dropped";
     EXPECT_EQ(picture(*game.pBoard) + status(), before);
-    const formsettings &dialog = *game.pSettings;
-    EXPECT_EQ(dialog.cmbRules->currentIndex() + dialog.rulesIndex, 0);
-    EXPECT_EQ(dialog.cmbSize->currentIndex() + dialog.sizeIndex, 4);
-    EXPECT_EQ(dialog.cmbLevel->currentIndex() + dialog.levelIndex, 6);
-    EXPECT_EQ(dialog.cmbPlayers->currentIndex(), 0);
-    EXPECT_FALSE(dialog.giveAway || dialog.chGiveAway->isChecked() || game.pStat->giveAway);
+    settings(QDialogButtonBox::Ok); // nothing of the change has stayed
+    EXPECT_EQ(picture(*game.pBoard) + status(), before);
+    EXPECT_STREQ(game.pEngine->className(), "IntEngine");
+    EXPECT_EQ(game.pStat->scoreNoise, 1000);
+    EXPECT_FALSE(game.pSettings->chGiveAway->isChecked() || game.pStat->giveAway);
 
     settings(QDialogButtonBox::Ok, change);
     EXPECT_EQ(status(), "[Your Move] 12/12 About Force Settings NewGame");
@@ -54,11 +44,9 @@ TEST_F(GameTest, SmallerBoardLeavesADeadStripUntilTheNextResize) {
     settings(QDialogButtonBox::Ok,
              [](formsettings &dialog) { choose(dialog.cmbSize, eightSquares); });
     EXPECT_EQ(game.pMetrics->getW(), 230);
-    EXPECT_EQ(game.pMetrics->SquareWidthB(), 28);
     tap(2, 2);
-    EXPECT_EQ(marked(MarkNext), "(1,3) (3,3)");
-    press(game.pView->viewport(), QPoint(228, 14)); // beside (7,7)
-    press(game.pView->viewport(), QPoint(14, 228)); // below (0,0)
+    for (const QPoint strip : {QPoint(228, 14), QPoint(14, 228)}) // squares are of 28 pixels
+        press(game.pView->viewport(), strip);
     EXPECT_EQ(marked(MarkNext), "(1,3) (3,3)");
     tap(3, 3);
     land(2);
@@ -88,9 +76,7 @@ TEST_F(GameTest, OtherRulesGoOnWithTheGameAlsoWhenItIsOver) {
 
 TEST_F(GameTest, LevelsAskForWhatTheirNamesSay) {
     constexpr struct {
-        int depth;
-        int seconds;
-        int noise;
+        int depth, seconds, noise;
     } levels[] = {{1, -1, 1000}, {2, -1, 400}, {-1, 2, 5},  {-1, 5, 5},
                   {-1, 10, 5},   {-1, 20, 5},  {-1, 60, 5}, {-1, 99999999, 5}};
     for (int i = 7; i >= 0; --i) {
@@ -98,16 +84,13 @@ TEST_F(GameTest, LevelsAskForWhatTheirNamesSay) {
         EXPECT_EQ(game.pStat->getReqDepth(), levels[i].depth) << i;
         EXPECT_EQ(game.pStat->getReqTime(), levels[i].seconds) << i;
         EXPECT_EQ(game.pStat->scoreNoise, levels[i].noise) << i;
+        if (i > 3)
+            continue;
+        const qint64 begin = host.clockMs();
+        press(game.btnForce);
+        EXPECT_LT(host.clockMs() - begin, 4000 * std::max(1, levels[i].seconds)) << i;
+        land();
     }
-}
-
-TEST_F(GameTest, TwoSecondsAreKeptTo) {
-    game.setLevel(2);
-    QElapsedTimer clock;
-    clock.start();
-    press(game.btnForce);
-    EXPECT_LT(clock.elapsed(), 8000);
-    EXPECT_TRUE(game.flying);
 }
 
 TEST_F(GameTest, UnknownItemsAreReportedAndReplaced) {
@@ -150,10 +133,7 @@ TEST_F(GameTest, EveryRuleSetPlaysItselfOnEveryBoard) {
                 choose(dialog.cmbSize, size);
                 choose(dialog.cmbPlayers, computers);
             });
-            for (int ply = 0; ply < 10; ++ply) {
-                land();
-                game.pCanvas->update();
-            }
+            land(10);
             EXPECT_EQ(boxes(), "");
             // BREAK in flight: the computer plays once more, then the game is the player's.
             press(game.btnBreak);
@@ -168,9 +148,7 @@ TEST_F(GameTest, EveryRuleSetPlaysItselfOnEveryBoard) {
 TEST(Format1000, GroupsThreeDigits) {
     const std::pair<int, const char *> cases[] = {{0, ""},
                                                   {999, "999 "},
-                                                  {1000, "001 000 "},
                                                   {-5, "-005 "},
-                                                  {-1000, "-001 000 "},
                                                   {1234567, "001 234 567 "},
                                                   {INT_MIN, "-002 147 483 648 "}};
     for (const auto &[number, text] : cases)

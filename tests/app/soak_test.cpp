@@ -2,7 +2,6 @@
 
 #include "tests/app/gamerig.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 namespace {
@@ -47,14 +46,3 @@ TEST_P(SoakTest, HundredsOfPliesLeaveOnlyTheHistoryBehind) {
 
 INSTANTIATE_TEST_SUITE_P(All, SoakTest,
                          testing::Combine(testing::Range(0, 3), testing::Range(0, 4)));
-
-TEST_F(GameTest, FiveSecondsAreKeptTo) {
-    game.setLevel(3);
-    for (int move = 0; move < 4; ++move) {
-        QElapsedTimer clock;
-        clock.start();
-        press(game.btnForce);
-        EXPECT_LT(clock.elapsed(), 20'000);
-        land();
-    }
-}
