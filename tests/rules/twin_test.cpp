@@ -1,46 +1,39 @@
-// The program's generators, analysis, evaluation and key against the plain twin, position by
+// Engines and bit sets against the plain twin: moves, keys, analysis and evaluation, position by
 // position. TWIN_POSITIONS in the environment says how many; a few thousand otherwise.
 
+#include "eval/bitanalysis.h"
+#include "eval/bitmaterial.h"
 #include "eval/heuristic.h"
-#include "tests/support/enginerig.h"
+#include "rules/bitmovegenerator.h"
+#include "search/abstractengine.h"
+#include "tests/support/drawnboard.h"
 #include "tests/support/plaintwin.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <random>
 
 namespace {
 
-constexpr int quickPositions = 10000;
-
-// All that is asked of a position. Every implementation fills one of these.
+// All that the twin says of a position.
 struct Findings {
+    board marked; // by the listing of moves, and of the quiet ones alone
+    board quietMarked;
     std::vector<plain::Move> moves;
-    board marked; // after the listing
     std::vector<plain::Move> quiet;
-    board quietMarked; // after the listing of non-capturing moves alone
-    bool aboutToPass = false;
-    unsigned int key = 0;
     plain::Analysis analysis;
-    int value = 0;
-    int valueWithPassages = 0;
-};
+    int value;
+    int valueWithPassages;
 
-Findings plainFindings(Rules rules, const board &b, bool gambit) {
-    Findings f;
-    f.marked = b;
-    f.moves = plain::legalMoves(rules, f.marked);
-    f.quietMarked = b;
-    f.quiet = plain::quietMoves(rules, f.quietMarked);
-    f.aboutToPass = plain::aboutToPass(f.marked);
-    f.key = plain::key(b);
-    f.analysis = plain::analyse(b);
-    f.value = plain::value(rules, b, gambit, nullptr);
-    f.valueWithPassages = plain::value(rules, b, gambit, &f.analysis);
-    return f;
-}
+    Findings(RuleSet rules, const board &b, bool gambit)
+        : marked(b), quietMarked(b), moves(plain::legalMoves(rules, marked)),
+          quiet(plain::quietMoves(rules, quietMarked)), analysis(plain::analyse(b)),
+          value(plain::value(rules, b, gambit, nullptr)),
+          valueWithPassages(plain::value(rules, b, gambit, &analysis)) {}
+};
 
 std::vector<plain::Move> plainMoves(const QValueList<LegalMove> &list) {
     std::vector<plain::Move> moves;
@@ -57,148 +50,192 @@ plain::Analysis engineAnalysis(const board &b, heuristic &h) {
         h.findPassage(codeWhite);
     if (a.blackPasses)
         h.findPassage(codeBlack);
-    for (int x = 0; x < b.size; ++x) {
-        for (int y = 0; y < b.size; ++y) {
-            a.reach[x][y] = h.cells[x][y].reach;
-            a.owner[x][y] = h.getOwner(x, y);
-            a.passage[x][y] = h.getPassage(x, y);
-        }
+    for (int i = 0; i < b.size * b.size; ++i) {
+        const XY p(i / b.size, i % b.size);
+        a.reach[p.x][p.y] = h.cells[p.x][p.y].reach;
+        a.owner[p.x][p.y] = h.getOwner(p.x, p.y);
+        a.passage[p.x][p.y] = h.getPassage(p.x, p.y);
     }
     a.freedom = h.freedom();
     return a;
 }
 
-Findings engineFindings(Rules rules, const board &b, bool gambit) {
-    static thinkStatistic statistic;
-    static SquaresValue table(10, false);
-    statistic.scoreNoise = 1;
-    table.reFill(b.size, gambit);
-    AbstractEngine::setSQV(&table);
-    AbstractEngine::isGambit = gambit;
-    Findings f;
-    f.marked = b;
-    const std::unique_ptr<IntEngine> engine = makeEngine(rules, &f.marked, &statistic);
-    const bool noMoves = engine->FillMoveList();
-    EXPECT_EQ(noMoves, engine->moveList.isEmpty());
-    f.moves = plainMoves(engine->moveList);
-    f.quietMarked = b;
-    QValueList<LegalMove> quiet;
-    const bool found = engine->FillNotCapturingMoveList(&quiet, &f.quietMarked);
-    EXPECT_EQ(found, !quiet.isEmpty());
-    f.quiet = plainMoves(quiet);
-    f.aboutToPass = engine->aboutToPass();
-    f.key = b.HKey();
-    heuristic h;
-    f.analysis = engineAnalysis(b, h);
-    f.value = engine->materialScore(nullptr);
-    f.valueWithPassages = engine->materialScore(&h);
-    return f;
-}
-
-// The implementations to compare with the plain one.
-struct Implementation {
-    const char *name;
-    Findings (*findings)(Rules, const board &, bool gambit);
-};
-constexpr Implementation implementations[] = {{"engine", engineFindings}};
-
 bool sameSquares(const board &a, const board &b) {
     return std::memcmp(a.squares, b.squares, sizeof a.squares) == 0;
 }
 
-void expectSame(const Findings &want, const Findings &got) {
-    EXPECT_TRUE(want.moves == got.moves) << "moves";
-    EXPECT_TRUE(want.quiet == got.quiet) << "non-capturing moves";
-    EXPECT_TRUE(sameSquares(want.marked, got.marked)) << "can-move marks";
-    EXPECT_TRUE(sameSquares(want.quietMarked, got.quietMarked)) << "can-move marks, quiet";
-    EXPECT_EQ(want.aboutToPass, got.aboutToPass);
-    EXPECT_EQ(want.key, got.key);
-    EXPECT_EQ(std::memcmp(want.analysis.reach, got.analysis.reach, sizeof want.analysis.reach), 0);
-    EXPECT_EQ(std::memcmp(want.analysis.owner, got.analysis.owner, sizeof want.analysis.owner), 0);
-    EXPECT_EQ(
-        std::memcmp(want.analysis.passage, got.analysis.passage, sizeof want.analysis.passage), 0);
-    EXPECT_EQ(want.analysis.whitePasses, got.analysis.whitePasses);
-    EXPECT_EQ(want.analysis.blackPasses, got.analysis.blackPasses);
-    EXPECT_EQ(want.analysis.freedom, got.analysis.freedom);
-    EXPECT_EQ(want.value, got.value);
-    EXPECT_EQ(want.valueWithPassages, got.valueWithPassages);
+void compareEngine(RuleSet rules, const board &b, const Findings &want) {
+    thinkStatistic statistic;
+    statistic.scoreNoise = 1;
+    board marked = b;
+    const std::unique_ptr<AbstractEngine> engine(newEngine(rules, &marked, 1, &statistic, b.size));
+    EXPECT_EQ(engine->FillMoveList(), want.moves.empty());
+    EXPECT_TRUE(plainMoves(engine->moveList) == want.moves) << moveText(engine->moveList);
+    EXPECT_TRUE(sameSquares(marked, want.marked)) << "can-move marks";
+    EXPECT_EQ(engine->aboutToPass(), plain::aboutToPass(want.marked));
+    for (int i = 0; i < engine->moveList.count() && !testing::Test::HasFailure(); ++i) {
+        board after = marked;
+        board wanted = want.marked;
+        engine->makeMove(&after, &engine->moveList[i]);
+        plain::play(wanted, want.moves[static_cast<std::size_t>(i)]);
+        EXPECT_TRUE(sameSquares(after, wanted) && after.whiteToMove == wanted.whiteToMove &&
+                    after.plyCount == wanted.plyCount)
+            << "after " << moveText(engine->moveList[i]);
+    }
+    board quietMarked = b;
+    QValueList<LegalMove> quiet;
+    EXPECT_EQ(engine->FillNotCapturingMoveList(&quiet, &quietMarked), !want.quiet.empty());
+    EXPECT_TRUE(plainMoves(quiet) == want.quiet) << moveText(quiet);
+    EXPECT_TRUE(sameSquares(quietMarked, want.quietMarked)) << "can-move marks, quiet moves";
+    EXPECT_EQ(b.HKey(), plain::key(b));
+    heuristic h;
+    EXPECT_TRUE(engineAnalysis(b, h) == want.analysis) << "analysis";
+    EXPECT_EQ(engine->materialScore(nullptr), want.value);
+    EXPECT_EQ(engine->materialScore(&h), want.valueWithPassages);
 }
 
-class Twin : public testing::TestWithParam<Rules> {
+template <int N, bool White>
+void compareBitMoves(MoveStack<BitMove<N>> &stack, const std::vector<plain::Move> &want,
+                     const board &b) {
+    using Squares = DarkSquares<N>;
+    ASSERT_EQ(stack.size(), want.size());
+    for (std::size_t i = 0; i < want.size(); ++i) {
+        typename Squares::Bits taken = 0;
+        for (const XY &p : want[i].taken)
+            taken |= Squares::square(p.x, p.y);
+        EXPECT_TRUE(Squares::squareOf(stack[i].from) == want[i].path.front() &&
+                    Squares::squareOf(stack[i].to) == want[i].path.back() &&
+                    stack[i].taken == taken)
+            << "bit move " << i;
+        board after = b;
+        plain::play(after, want[i]);
+        EXPECT_TRUE(BitPosition<N>(b).template after<White>(stack[i]) == BitPosition<N>(after))
+            << "bits after move " << i;
+    }
+    stack.cut(0);
+}
+
+template <int N, const RuleTraits &Rules, bool White>
+void compareBitGenerator(const board &b, const Findings &want) {
+    const BitPosition<N> p(b);
+    BitMoveGenerator<N, Rules, White> generator(p);
+    MoveStack<BitMove<N>> stack;
+    const bool capture = !want.moves.empty() && !want.moves[0].taken.empty();
+    EXPECT_EQ(generator.canCapture(), capture);
+    if (capture)
+        generator.listCaptures(stack);
+    compareBitMoves<N, White>(stack, capture ? want.moves : std::vector<plain::Move>(), b);
+    EXPECT_TRUE(capture || generator.countQuiet() == static_cast<int>(want.quiet.size()));
+    generator.listQuiet(stack);
+    compareBitMoves<N, White>(stack, want.quiet, b);
+}
+
+template <int N, const RuleTraits &Rules>
+void compareBits(const board &b, bool gambit, const Findings &want) {
+    using Squares = DarkSquares<N>;
+    EXPECT_TRUE(BitPosition<N>::representable(b));
+    const BitPosition<N> p(b);
+    EXPECT_EQ(p.key(b.whiteToMove), plain::key(b));
+    board written(N);
+    written.whiteToMove = b.whiteToMove;
+    p.writeTo(written);
+    EXPECT_EQ(picture(written), picture(b));
+    if (b.whiteToMove)
+        compareBitGenerator<N, Rules, true>(b, want);
+    else
+        compareBitGenerator<N, Rules, false>(b, want);
+
+    const BitAnalysis<N> analysis(p, b.whiteToMove);
+    const auto passing = [&](int man) {
+        return Squares::select([&](int x, int y) {
+            return want.analysis.passage[x][y] != 0 && b.squares[x][y] % 16 == man;
+        });
+    };
+    EXPECT_EQ(analysis.whiteCanPass(), want.analysis.whitePasses);
+    EXPECT_EQ(analysis.blackCanPass(), want.analysis.blackPasses);
+    EXPECT_TRUE(analysis.whitePassageMen() == passing(whiteMan)) << "white's passages";
+    EXPECT_TRUE(analysis.blackPassageMen() == passing(blackMan)) << "black's passages";
+    EXPECT_EQ(analysis.freedom(), want.analysis.freedom);
+
+    const BitMaterial<N, Rules.flyingKings> material(*AbstractEngine::pSQV, gambit);
+    const int side = b.whiteToMove ? 1 : -1;
+    EXPECT_EQ(side * material.balance(p, 0, 0), want.value);
+    EXPECT_EQ(side * material.balance(p, passing(whiteMan), passing(blackMan)),
+              want.valueWithPassages);
+}
+
+template <const RuleTraits &Rules>
+void compareBits(const board &b, bool gambit, const Findings &want) {
+    constexpr void (*bySize[])(const board &, bool,
+                               const Findings &) = {compareBits<6, Rules>, compareBits<8, Rules>,
+                                                    compareBits<10, Rules>, compareBits<12, Rules>};
+    bySize[b.size / 2 - 3](b, gambit, want);
+}
+
+class Twin : public testing::Test {
 protected:
-    RecordingHost host;
-    std::mt19937 random{2024U + static_cast<unsigned>(GetParam())};
+    std::mt19937 random{2024};
+    RuleSet rules = RuleSet::International;
 
     int below(std::size_t n) { return static_cast<int>(random() % n); }
 
     static int positions() {
         const char *wanted = std::getenv("TWIN_POSITIONS");
-        return (wanted == nullptr ? quickPositions : std::atoi(wanted)) / 3;
+        return wanted == nullptr ? 10000 : std::atoi(wanted);
     }
 
-    std::vector<plain::Move> compare(const board &b) {
-        XY::B_SIZE = b.size;
+    // Another rule set; the size of a board to play it on.
+    int draw() {
+        rules = allRuleSets[below(3)];
+        return XY::B_SIZE = allBoardSizes[below(4)];
+    }
+
+    Findings compare(const board &b) {
         const bool gambit = below(2) == 0;
-        const Findings want = plainFindings(GetParam(), b, gambit);
-        for (const Implementation &implementation : implementations) {
-            expectSame(want, implementation.findings(GetParam(), b, gambit));
-            if (HasFailure())
-                ADD_FAILURE() << implementation.name << ", " << testing::PrintToString(GetParam())
-                              << (gambit ? ", gambit\n" : "\n") << picture(b);
-        }
-        return want.moves;
-    }
-
-    // The same move made by both; the piece keeps its marks on the way.
-    void playBoth(board &b, const plain::Move &m) {
-        static thinkStatistic statistic;
-        LegalMove move(m.path.front(), m.path.back());
-        for (std::size_t i = 0; i < m.taken.size(); ++i)
-            move.insTaken(m.taken[i], static_cast<int>(i));
-        board other = b;
-        makeEngine(GetParam(), &other, &statistic)->makeMove(&other, &move);
-        plain::play(b, m);
-        ASSERT_TRUE(sameSquares(b, other)) << picture(b);
-        ASSERT_EQ(b.whiteToMove, other.whiteToMove);
-        ASSERT_EQ(b.plyCount, other.plyCount);
-    }
-
-    // Pieces anywhere on the dark squares, `kings` of ten being kings.
-    board scattered(int size, int filled, int kings) {
-        board b(size);
-        b.clear();
-        b.whiteToMove = below(2) == 0;
-        for (int x = 0; x < size; ++x) {
-            for (int y = x % 2; y < size; y += 2) {
-                if (below(100) < filled)
-                    b.squares[x][y] =
-                        static_cast<unsigned char>(4 + 4 * below(2) + (below(10) < kings ? 2 : 1));
-            }
-        }
-        return b;
+        SquaresValue table(b.size, gambit);
+        AbstractEngine::setSQV(&table);
+        AbstractEngine::isGambit = gambit;
+        const Findings want(rules, b, gambit);
+        compareEngine(rules, b, want);
+        (rules == RuleSet::American ? compareBits<americanRules>
+         : rules == RuleSet::Polish ? compareBits<polishRules>
+                                    : compareBits<internationalRules>)(b, gambit, want);
+        AbstractEngine::setSQV(nullptr);
+        if (HasFailure())
+            ADD_FAILURE() << "rules " << static_cast<int>(rules) << " gambit " << gambit << '\n'
+                          << picture(b);
+        return want;
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Rules, Twin, testing::ValuesIn(allRules),
-                         [](const auto &suite) { return testing::PrintToString(suite.param); });
-
-TEST_P(Twin, AgreesOnPositionsOfGames) {
+TEST_F(Twin, AgreesOnPositionsOfGames) {
     constexpr int longestGame = 120;
     for (int done = 0; done < positions() && !HasFailure();) {
-        board b(allSizes[below(4)]);
+        board b(draw());
         for (int ply = 0; ply < longestGame && !HasFailure(); ++ply, ++done) {
-            const std::vector<plain::Move> moves = compare(b);
-            if (moves.empty())
+            const Findings found = compare(b);
+            if (found.moves.empty())
                 break;
-            plain::legalMoves(GetParam(), b); // leaves its marks for the next position
-            playBoth(b, moves[static_cast<std::size_t>(below(moves.size()))]);
+            b = found.marked; // the marks stay for the next position
+            plain::play(b, found.moves[random() % found.moves.size()]);
         }
     }
 }
 
-TEST_P(Twin, AgreesOnScatteredPositions) {
-    for (int done = 0; done < positions() && !HasFailure(); ++done)
-        compare(scattered(allSizes[below(4)], 5 + below(40), below(11)));
+// Pieces anywhere on the dark squares, a varying share of them kings.
+TEST_F(Twin, AgreesOnScatteredPositions) {
+    for (int done = 0; done < positions() && !HasFailure(); ++done) {
+        board b(draw());
+        const int filled = 5 + below(40);
+        const int kings = below(11);
+        b.whiteToMove = below(2) == 0;
+        for (int i = 0; i < b.size * b.size; ++i) {
+            const int code = 4 + 4 * below(2) + (below(10) < kings ? 2 : 1);
+            const bool set = (i / b.size + i % b.size) % 2 == 0 && below(100) < filled;
+            b.squares[i / b.size][i % b.size] = static_cast<unsigned char>(set ? code : 0);
+        }
+        compare(b);
+    }
 }
 
 } // namespace

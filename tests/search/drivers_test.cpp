@@ -1,9 +1,7 @@
 #include "search/deepsearch.h"
 #include "tests/support/enginerig.h"
 #include "tests/support/plaintwin.h"
-
-#include <QIODevice>
-#include <QTextStream>
+#include "tools/common/positionline.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +9,6 @@
 #include <random>
 
 namespace {
-
-constexpr char twoMovesWin[] = "w ...... ...... ...... ..w... ...... ......";
-// White's only move loses its last man.
-constexpr char onlyMoveLoses[] = "w ...... ..b... ...... w..... ...... ......";
 
 enum class Mode { Depth, Time, Unlimited };
 constexpr Mode allModes[] = {Mode::Depth, Mode::Time, Mode::Unlimited};
@@ -26,16 +20,51 @@ void request(EngineRig &rig, Mode mode, int plies = 6) {
         rig.statistic.setReqTime(mode == Mode::Time ? 5 : 99999999);
 }
 
-TEST(Drivers, DecidedGamesEndTheIterations) {
-    for (const Mode mode : allModes) {
-        for (const bool giveAway : {false, true}) {
-            EngineRig rig(Rules::International, twoMovesWin);
+// Searches that end at once: a win found, a single move, which loses the last man, and no move.
+TEST(Drivers, EndingsWithoutDeepening) {
+    const struct {
+        const char *picture;
+        bool giveAway;
+        const char *move;
+        Score score; // depth of the fixed-depth search
+        int timedDepth;
+        int nodes;
+        const char *line;
+    } cases[] = {
+        {"w ...... ...... ...... ..w... ...... ......",
+         false,
+         "(2,2)-(3,3)",
+         {999999, 1},
+         3,
+         4,
+         "(2,2)->(3,3) 999999 \n"},
+        {"w ...... ...... ...... ..w... ...... ......",
+         true,
+         "(2,2)-(3,3)",
+         {-999999, 1},
+         3,
+         4,
+         "(2,2)->(3,3) -999999 \n"},
+        {"w ...... ..b... ...... w..... ...... ......",
+         false,
+         "(0,2)-(1,3)",
+         {-999998, 1},
+         2,
+         4,
+         "(0,2)->(1,3) -999998 \n(2,4)->(0,2) 999998 \n"},
+        {"w ...... ..b... .b.... w..... ...... ......", false, "none", {-1000000, 0}, 0, 1, ""}};
+    for (const auto &c : cases) {
+        for (const Mode mode : allModes) {
+            EngineRig rig(RuleSet::American, c.picture);
+            rig.host.msPerReading = 10;
+            AbstractEngine::breakThinking = true; // left over from another search
+            rig.statistic.giveAway = c.giveAway;
             request(rig, mode);
-            rig.statistic.giveAway = giveAway;
-            EXPECT_EQ(rig.search(), "(2,2)-(3,3)");
-            EXPECT_EQ(rig.score.value, giveAway ? -999999 : 999999);
-            EXPECT_EQ(rig.score.depth, mode == Mode::Depth ? 1 : 3) << "the first iteration's";
-            EXPECT_EQ(rig.statistic.nodes, 1 + 3);
+            EXPECT_EQ(rig.search(), c.move);
+            EXPECT_EQ(rig.score.value, c.score.value);
+            EXPECT_EQ(rig.score.depth, mode == Mode::Depth ? c.score.depth : c.timedDepth);
+            EXPECT_EQ(rig.statistic.nodes, c.nodes);
+            EXPECT_EQ(rig.lineText(), c.line);
             EXPECT_EQ(rig.position.hashScore, rig.score.value);
             EXPECT_EQ(rig.position.hashHorizon, rig.score.depth);
             EXPECT_EQ(rig.host.beeps, 1);
@@ -43,46 +72,14 @@ TEST(Drivers, DecidedGamesEndTheIterations) {
     }
 }
 
-TEST(Drivers, ASingleMoveTakesOneShortSearch) {
-    for (const Mode mode : allModes) {
-        EngineRig rig(Rules::International, onlyMoveLoses);
-        rig.host.msPerReading = 10;
-        AbstractEngine::breakThinking = true; // left over from another search
-        request(rig, mode);
-        EXPECT_EQ(rig.search(), "(0,2)-(1,3)");
-        EXPECT_EQ(rig.score.value, -999998);
-        EXPECT_EQ(rig.lineText(), "(0,2)->(1,3) -999998 \n(2,4)->(0,2) 999998 \n");
-        EXPECT_EQ(rig.statistic.nodes, 4);
-        EXPECT_EQ(rig.statistic.movesGenerated, 3);
-        EXPECT_EQ(rig.statistic.maxLevel, 2);
-        EXPECT_EQ(rig.engine->depth, mode == Mode::Depth ? 10 : 20);
-        EXPECT_EQ(rig.statistic.lastIterationMs, 0) << "the budget is not consulted";
-        EXPECT_EQ(rig.statistic.timeCredit, 0);
-        EXPECT_FALSE(AbstractEngine::breakThinking);
-    }
-}
-
-TEST(Drivers, NoMoveAtAll) {
-    for (const Mode mode : allModes) {
-        EngineRig rig(Rules::American, "w ...... ..b... .b.... w..... ...... ......");
-        request(rig, mode);
-        EXPECT_EQ(rig.search(), "none");
-        EXPECT_EQ(rig.score.value, -1000000);
-        EXPECT_EQ(rig.score.depth, 0);
-        EXPECT_EQ(rig.lineText(), "");
-        EXPECT_EQ(rig.statistic.nodes, 1);
-    }
-}
-
 TEST(Drivers, HowFarTheyDeepen) {
-    for (const int plies : {1, 2, 4}) {
-        EngineRig rig(Rules::International, board(8));
+    for (const int plies : {1, 4}) {
+        EngineRig rig(RuleSet::International, board(8));
         rig.statistic.setReqDepth(plies);
         rig.search();
         EXPECT_EQ(rig.engine->depth, 10 * plies);
-        EXPECT_EQ(rig.statistic.timeCredit, -1000);
     }
-    EngineRig rig(Rules::International, board(8));
+    EngineRig rig(RuleSet::International, board(8));
     rig.host.msPerReading = 6000; // the first iteration is over the budget
     rig.statistic.setReqTime(5);
     EXPECT_NE(rig.search(), "none");
@@ -92,45 +89,40 @@ TEST(Drivers, HowFarTheyDeepen) {
 
 TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
     for (const Mode mode : allModes) {
-        EngineRig rig(Rules::International, board(10));
+        EngineRig rig(RuleSet::International, board(10));
         rig.host.onEvents = [] { AbstractEngine::breakThinking = true; };
         request(rig, mode);
         EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
         EXPECT_EQ(rig.score.value, -1000000);
         EXPECT_EQ(rig.score.depth, -1);
         EXPECT_TRUE(AbstractEngine::breakThinking);
-        EXPECT_EQ(rig.host.beeps, 1);
         EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
     }
 }
 
 TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
-    for (const Rules rules : allRules) {
+    for (const RuleSet rules : allRuleSets) {
         for (const Mode mode : allModes) {
             EngineRig whole(rules, board(10));
             request(whole, mode == Mode::Depth ? mode : Mode::Time, 3);
             whole.host.msPerReading = 6000; // a timed search ends after its first iteration
-            const LegalMove *best = whole.engine->getBestMove(whole.score, whole.line);
-            const std::string move = moveText(*best);
-            EXPECT_EQ(best->to(), whole.line.to[0]);
-            EXPECT_NE(moveText(whole.engine->moveList).find(move), std::string::npos);
-            const int nodes = whole.statistic.nodes;
-
+            const std::string move = whole.search();
             EngineRig broken(rules, board(10));
             request(broken, mode, 8);
             broken.host.onEvents = [&] {
-                AbstractEngine::breakThinking = broken.statistic.nodes > nodes;
+                AbstractEngine::breakThinking = broken.statistic.nodes > whole.statistic.nodes;
             };
             EXPECT_EQ(broken.search(), move);
             EXPECT_EQ(broken.score.value, whole.score.value);
-            EXPECT_GT(broken.statistic.nodes, nodes);
+            EXPECT_GT(broken.statistic.nodes, whole.statistic.nodes);
             EXPECT_FALSE(AbstractEngine::breakThinking);
+            EXPECT_NE(moveText(broken.engine->moveList).find(move), std::string::npos);
         }
     }
 }
 
 TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
-    EngineRig rig(Rules::International, board(10));
+    EngineRig rig(RuleSet::International, board(10));
     rig.statistic.setReqDepth(4);
     rig.search();
     const int counted = rig.statistic.nodes - 1; // the driver's own listing is no node
@@ -140,39 +132,28 @@ TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
 
 // White takes three kings or one; with few pieces a favourite needs five plies.
 TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
-    EngineRig rig(Rules::American, R"(w
-        ..........
-        ........B.
-        ..........
-        ......B...
-        ..........
-        ..B.B.....
-        ...W......
-        ..........
-        ..........
-        ..........)");
+    EngineRig rig(RuleSet::American,
+                  "w .......... ........B. .......... ......B... .......... ..B.B..... ...W...... "
+                  ".......... .......... ..........");
     request(rig, Mode::Unlimited);
     EXPECT_EQ(rig.search(), "(3,3)x(5,5)x(7,7)x(9,9)");
     EXPECT_EQ(rig.engine->depth, 50);
     EXPECT_EQ(rig.host.beeps, 2);
     EXPECT_EQ(rig.host.pauses, std::vector<int>{100000});
-    EXPECT_TRUE(AbstractEngine::getGambit());
 }
 
 // Each side has exactly one move, for ever, under all rules: the levels 0 to 100 are one node each.
 TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
-    QString line =
-        "10 0 0 0 -1 wm--wm--wK--wm--bm----wm--bm------bm--bmwm--bm--bm--wm--bm----wm--bm"
-        "--bm--wm--bmwm--wm--wm--bm--bm----wm--wm--bm--bm--bmwm--bm--wm--wm--bm----wm--bm"
-        "--wm--wm--bmwm--wm------wm--bm----wm--bm--bK--bm--bm";
-    for (const Rules rules : allRules) {
+    QString error;
+    const std::optional<board> b = readPositionLine(
+        "10 0 0 0 -1 wm--wm--wK--wm--bm----wm--bm------bm--bmwm--bm--bm--wm--bm----wm--bm--bm--wm--"
+        "bmwm--wm--wm--bm--bm----wm--wm--bm--bm--bmwm--bm--wm--wm--bm----wm--bm--wm--wm--bmwm--wm--"
+        "--"
+        "--wm--bm----wm--bm--bK--bm--bm",
+        error);
+    for (const RuleSet rules : allRuleSets) {
         for (const Mode mode : allModes) {
-            board b(10);
-            QTextStream stream(&line, QIODevice::ReadOnly);
-            testing::internal::CaptureStdout(); // the line has no key
-            b.fromStream(stream);
-            testing::internal::GetCapturedStdout();
-            EngineRig rig(rules, b);
+            EngineRig rig(rules, b.value());
             request(rig, mode, 8);
             EXPECT_NE(rig.search(), "none");
             EXPECT_EQ(rig.statistic.nodes, 1 + 101 * (mode == Mode::Depth ? 8 : 1));
@@ -183,35 +164,41 @@ TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
     }
 }
 
-// The bit sets that stand in for engines below level 3 must not show in any result.
+// All that a search to `plies` tells, on bit sets below level 3 or straightforward.
+std::string searchReport(RuleSet rules, const board &b, int plies, bool giveAway, bool bits) {
+    EngineRig rig(rules, b);
+    DeepSearch::enable(bits);
+    rig.host.fixedSeed = bits; // without noise it is no matter
+    rig.statistic.giveAway = giveAway;
+    rig.statistic.setReqDepth(plies);
+    std::string text = rig.search() + '\n' + rig.lineText();
+    const thinkStatistic &s = rig.statistic;
+    for (const int number :
+         {rig.score.value, rig.score.depth, s.nodes, s.movesGenerated, s.scoresCalculated,
+          s.cutoffs, s.senselessSacrifices, s.hashHits, s.maxLevel})
+        text.append(std::to_string(number)).append(" ");
+    DeepSearch::enable(true);
+    return text;
+}
+
 TEST(Drivers, DeepLevelsAreTheSameWithAndWithoutEngines) {
     const char *wanted = std::getenv("TWIN_SEARCHES");
     std::mt19937 random(77);
     const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
-    for (int i = wanted == nullptr ? 60 : std::atoi(wanted); i > 0 && !testing::Test::HasFailure();
-         --i) {
-        const Rules rules = allRules[below(3)];
-        board b(allSizes[below(4)]);
-        XY::B_SIZE = b.size;
+    for (int i = wanted == nullptr ? 60 : std::atoi(wanted); i > 0 && !HasFailure(); --i) {
+        const RuleSet rules = allRuleSets[below(3)];
+        board b(allBoardSizes[below(4)]);
         for (int plies = below(120); plies > 0; --plies) {
             const std::vector<plain::Move> moves = plain::legalMoves(rules, b);
             if (!moves.empty())
                 plain::play(b, moves[random() % moves.size()]);
         }
-        std::string reports[2];
         const int plies = 1 + below(6);
         const bool giveAway = below(4) == 0;
-        for (const bool engines : {false, true}) {
-            EngineRig rig(rules, b);
-            DeepSearch::enable(!engines);
-            rig.host.fixedSeed =
-                static_cast<unsigned>(i) + engines; // without noise it is no matter
-            rig.statistic.giveAway = giveAway;
-            rig.statistic.setReqDepth(plies);
-            reports[engines] = rig.report(rig.search());
-        }
-        DeepSearch::enable(true);
-        EXPECT_EQ(reports[0], reports[1]) << plies << " plies\n" << picture(b);
+        EXPECT_EQ(searchReport(rules, b, plies, giveAway, true),
+                  searchReport(rules, b, plies, giveAway, false))
+            << plies << " plies\n"
+            << picture(b);
     }
 }
 

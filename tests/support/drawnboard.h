@@ -6,12 +6,7 @@
 #include "rules/board.h"
 #include "rules/legalmove.h"
 
-#include <memory>
-#include <ostream>
 #include <string>
-
-class IntEngine;
-class thinkStatistic;
 
 // A position from its drawing: the side to move ('w' or 'b'), then the rows from the top down, all
 // separated by blanks; '.' empty, 'w' and 'b' men, 'W' and 'B' kings. The number of rows is the
@@ -24,15 +19,5 @@ std::string picture(const board &b);
 // "(1,1)-(2,2)" or "(1,1)x(3,3)x(5,1)"; a list has its moves separated by blanks.
 std::string moveText(const LegalMove &m);
 std::string moveText(const QValueList<LegalMove> &list);
-
-enum class Rules { International, American, Polish };
-inline constexpr Rules allRules[] = {Rules::International, Rules::American, Rules::Polish};
-inline constexpr int allSizes[] = {6, 8, 10, 12};
-
-std::unique_ptr<IntEngine> makeEngine(Rules rules, board *b, thinkStatistic *statistic);
-
-// For messages of failing tests.
-void PrintTo(const board &b, std::ostream *out);
-void PrintTo(Rules rules, std::ostream *out);
 
 #endif

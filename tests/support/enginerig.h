@@ -4,12 +4,14 @@
 
 #include "eval/squaresvalue.h"
 #include "rules/intengine.h"
+#include "rules/ruleset.h"
 #include "search/bestline.h"
 #include "search/hashtable.h"
 #include "search/thinkstatistic.h"
 #include "tests/support/drawnboard.h"
 #include "tests/support/recordinghost.h"
 
+#include <memory>
 #include <string>
 
 // Noise 1, so that values are reproducible; the engine's statics are as at program start, the
@@ -20,11 +22,11 @@ struct EngineRig {
     thinkStatistic statistic;
     SquaresValue values;
     hashTable table{10003};
-    std::unique_ptr<IntEngine> engine;
+    std::unique_ptr<AbstractEngine> engine;
     Score score{0, 0};
     BestLine line;
 
-    EngineRig(Rules rules, const board &b) : position(b), values(b.size, false) {
+    EngineRig(RuleSet rules, const board &b) : position(b), values(b.size, false) {
         XY::B_SIZE = b.size;
         statistic.scoreNoise = 1;
         AbstractEngine::breakThinking = false;
@@ -33,9 +35,9 @@ struct EngineRig {
         AbstractEngine::absHorizon = -1;
         AbstractEngine::setSQV(&values);
         AbstractEngine::setHashTable(&table);
-        engine = makeEngine(rules, &position, &statistic);
+        engine.reset(newEngine(rules, &position, 1, &statistic, b.size));
     }
-    EngineRig(Rules rules, const std::string &picture) : EngineRig(rules, drawn(picture)) {}
+    EngineRig(RuleSet rules, const std::string &picture) : EngineRig(rules, drawn(picture)) {}
     ~EngineRig() {
         AbstractEngine::setSQV(nullptr);
         AbstractEngine::setHashTable(nullptr);
@@ -50,16 +52,6 @@ struct EngineRig {
         QString text;
         line.asString(text);
         return text.toStdString();
-    }
-    // All that the last search, which gave `move`, tells.
-    std::string report(const std::string &move) const {
-        std::string text = move;
-        for (const int number :
-             {score.value, score.depth, statistic.nodes, statistic.movesGenerated,
-              statistic.scoresCalculated, statistic.cutoffs, statistic.senselessSacrifices,
-              statistic.hashHits, statistic.maxLevel})
-            text.append(" ").append(std::to_string(number));
-        return text + '\n' + lineText();
     }
 };
 

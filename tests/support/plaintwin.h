@@ -3,7 +3,7 @@
 #define TESTS_SUPPORT_PLAINTWIN_H
 
 #include "rules/board.h"
-#include "tests/support/drawnboard.h"
+#include "rules/ruleset.h"
 
 #include <vector>
 
@@ -17,10 +17,10 @@ struct Move {
     bool operator==(const Move &) const = default;
 };
 
-// All legal moves in the order of listing. The can-move marks in `b` change when there is no
-// capture. Men's (and American kings') sequences of 25 jumps or more are dropped.
-std::vector<Move> legalMoves(Rules rules, board &b);
-std::vector<Move> quietMoves(Rules rules, board &b);
+// All legal moves in the order of listing; the quiet ones alone. Quiet listings set the can-move
+// marks in `b`. Men's (and American kings') sequences of 25 jumps or more are dropped.
+std::vector<Move> legalMoves(RuleSet rules, board &b);
+std::vector<Move> quietMoves(RuleSet rules, board &b);
 void play(board &b, const Move &m);
 bool aboutToPass(const board &b);
 unsigned int key(const board &b);
@@ -33,11 +33,12 @@ struct Analysis {
     bool whitePasses = false;
     bool blackPasses = false;
     int freedom = 0;
+    bool operator==(const Analysis &) const = default;
 };
 Analysis analyse(const board &b);
 
 // The value for the side to move without the random term; `passages` may be null.
-int value(Rules rules, const board &b, bool gambit, const Analysis *passages);
+int value(RuleSet rules, const board &b, bool gambit, const Analysis *passages);
 
 } // namespace plain
 

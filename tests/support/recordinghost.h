@@ -5,7 +5,6 @@
 #include "platform/host.h"
 
 #include <functional>
-#include <ostream>
 #include <vector>
 
 // In force from construction to destruction. Time stands still unless a test moves `now` or lets
@@ -17,12 +16,7 @@ public:
         QString title;
         QString text;
         BoxButtons buttons = BoxButtons::Ok;
-
         bool operator==(const Box &) const = default;
-        friend void PrintTo(const Box &box, std::ostream *out) {
-            *out << "box " << static_cast<int>(box.kind) << " '" << qPrintable(box.title) << "': '"
-                 << qPrintable(box.text) << "', buttons " << static_cast<int>(box.buttons);
-        }
     };
 
     std::vector<Box> boxes;
@@ -38,8 +32,6 @@ public:
 
     RecordingHost() : previous_(setHost(this)) {}
     ~RecordingHost() override { setHost(previous_); }
-    RecordingHost(const RecordingHost &) = delete;
-    RecordingHost &operator=(const RecordingHost &) = delete;
 
     bool messageBox(BoxKind kind, const QString &title, const QString &text, BoxButtons buttons,
                     QWidget *) override {
