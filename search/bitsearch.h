@@ -103,6 +103,9 @@ public:
         ++context_.counts.nodes;
         context_.counts.moves += moves_;
         context_.counts.maxLevel = std::max(context_.counts.maxLevel, level);
+        // Slots that run inside may read the statistics.
+        if (eventsAreDue())
+            context_.flush();
         pumpEvents(nodesBetweenEvents);
     }
 
