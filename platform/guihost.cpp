@@ -92,8 +92,11 @@ bool GuiHost::messageBox(BoxKind kind, const QString &title, const QString &text
 }
 
 void GuiHost::processEvents() {
-    if (!PaintScope::active())
-        QCoreApplication::processEvents();
+    constexpr qint64 pauseNs = 1000000;
+    if (PaintScope::active() || (sinceEvents.isValid() && sinceEvents.nsecsElapsed() < pauseNs))
+        return;
+    QCoreApplication::processEvents();
+    sinceEvents.start();
 }
 
 void GuiHost::beep() {
