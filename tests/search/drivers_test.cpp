@@ -123,7 +123,10 @@ TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
 
 TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
     EngineRig rig(RuleSet::International, board(10));
-    rig.statistic.setReqDepth(4);
+    rig.statistic.setReqDepth(6);
+    rig.host.onEvents = [&] {
+        EXPECT_EQ(rig.statistic.nodes, 2 + 201 * (rig.host.eventRounds - 1)) << "up to date";
+    };
     rig.search();
     const int counted = rig.statistic.nodes - 1; // the driver's own listing is no node
     EXPECT_EQ(rig.host.eventRounds, (counted - 1) / 201 + 1);
