@@ -8,11 +8,8 @@ namespace {
 
 // Maps show the squares' owners after the flood as w or b, in capitals where they lie on a passage.
 const struct {
-    const char *name;
-    const char *picture;
-    const char *map;
-    bool whitePasses;
-    bool blackPasses;
+    const char *name, *picture, *map;
+    bool whitePasses, blackPasses;
     int freedom;
 } floods[] = {
     {"a lone man runs free",

@@ -1,6 +1,5 @@
 // Rule positions: what each rule set lists, in order, and what playing a move leaves.
 
-#include "rules/amengine.h"
 #include "tests/support/enginerig.h"
 
 #include <gtest/gtest.h>
@@ -8,13 +7,10 @@
 namespace {
 
 // Expected lists in order; an empty one: the side to move has lost. The Polish list is the
-// international one where it is not given.
+// international one where it is not given. `after`: what the first international move leaves.
 const struct {
-    const char *name;
-    const char *picture;
-    const char *international;
-    const char *american;
-    const char *polish = nullptr;
+    const char *name, *picture, *international, *american;
+    const char *polish = nullptr, *after = nullptr;
 } positions[] = {
     {"men capture backwards, American ones do not", "w ...... ...... ...... ..w... .b.... ......",
      "(2,2)x(0,0)", "(2,2)-(1,3) (2,2)-(3,3)"},
@@ -45,9 +41,12 @@ const struct {
     {"around in a circle, no piece twice",
      "w ........ ........ ........ ..b.b... ........ ..b.b... ...w.... ........",
      "(3,1)x(5,3)x(3,5)x(1,3)x(3,1) (3,1)x(1,3)x(3,5)x(5,3)x(3,1)",
-     "(3,1)x(5,3)x(3,5) (3,1)x(1,3)x(3,5)"},
+     "(3,1)x(5,3)x(3,5) (3,1)x(1,3)x(3,5)", nullptr,
+     "b ........ ........ ........ ........ ........ ........ ...w.... ........"},
+    {"a crown where the move ends", "w .b.... ..w... ...... ...... ...... ......", "(2,4)-(3,5)",
+     "(2,4)-(3,5)", nullptr, "b .b.W.. ...... ...... ...... ...... ......"},
     {"over the promotion row and on", "w ...... ..b.b. .w.... ...... ...... ......",
-     "(1,3)x(3,5)x(5,3)", "(1,3)x(3,5)"},
+     "(1,3)x(3,5)x(5,3)", "(1,3)x(3,5)", nullptr, "b ...... ...... .....w ...... ...... ......"},
     {"the same for black", "b ...... ...... ...... ....b. .w.w.. ......", "(4,2)x(2,0)x(0,2)",
      "(4,2)x(2,0)"},
     {"blocked but for a capture backwards", "w ...... ..b... .b.... w..... .b.... ......",
@@ -63,72 +62,18 @@ TEST(Moves, RulePositions) {
         const char *const expected[] = {p.international, p.american, polish};
         for (const RuleSet rules : allRuleSets) {
             const std::string want = expected[static_cast<int>(rules)];
-            const EngineRig rig(rules, p.picture);
+            EngineRig rig(rules, p.picture);
             EXPECT_EQ(rig.engine->FillMoveList(), want.empty()) << p.name;
             EXPECT_EQ(moveText(rig.engine->moveList), want)
                 << p.name << ", rules " << static_cast<int>(rules);
             EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos);
             EXPECT_EQ(rig.engine->getLegalMove(rig.engine->moveList.count()), nullptr);
+            if (p.after == nullptr || rules != RuleSet::International)
+                continue;
+            rig.engine->makeMove(&rig.position, rig.engine->getLegalMove(0));
+            EXPECT_EQ(picture(rig.position), picture(drawn(p.after))) << p.name;
         }
     }
-}
-
-// The first listed move is played.
-TEST(Moves, PlayingAMove) {
-    const struct {
-        const char *name;
-        RuleSet rules;
-        const char *before;
-        const char *after;
-    } cases[] = {
-        {"a capture that ends where it began keeps the piece", RuleSet::International,
-         "w ........ ........ ........ ..b.b... ........ ..b.b... ...w.... ........",
-         "b ........ ........ ........ ........ ........ ........ ...w.... ........"},
-        {"no crown in passing", RuleSet::Polish, "w ...... ..b.b. .w.... ...... ...... ......",
-         "b ...... ...... .....w ...... ...... ......"},
-        {"a crown where the capture ends", RuleSet::American,
-         "b ...... ...... ...... ....b. .w.w.. ......",
-         "w ...... ...... ...... ...... .w.... ..B..."},
-        {"a crown by a simple move", RuleSet::International,
-         "w ...... ..w... ...... ...... ...... ......",
-         "b .W.... ...... ...... ...... ...... ......"},
-        {"the other side's row crowns nobody", RuleSet::International,
-         "b ...b.. ...... ...... ...... ...... ......",
-         "w ...... ..b... ...... ...... ...... ......"},
-    };
-    for (const auto &c : cases) {
-        EngineRig rig(c.rules, c.before);
-        ASSERT_FALSE(rig.engine->FillMoveList()) << c.name;
-        rig.engine->makeMove(&rig.position, &rig.engine->moveList.first());
-        EXPECT_EQ(picture(rig.position), picture(drawn(c.after))) << c.name;
-    }
-}
-
-// Overrides change what the inherited code does.
-class OwnRules : public PolEngine {
-public:
-    using PolEngine::PolEngine;
-    std::string visited;
-
-    void genCapManMove(XY pos, ::board *b, int level, LegalMove *m) override {
-        visited += 'm' + std::to_string(level);
-        PolEngine::genCapManMove(pos, b, level, m);
-    }
-    bool genCapKingMove(XY, ::board *, int, LegalMove *) override { return false; }
-    void genNManMove(XY, int, QValueList<LegalMove> *, ::board *) override { visited += "n"; }
-    void genNKingMove(XY, int, QValueList<LegalMove> *, ::board *) override { visited += "N"; }
-};
-
-TEST(Moves, OverridesTakePartEverywhere) {
-    thinkStatistic statistic;
-    board b = drawn("w ........ ........ ........ ....b... ........ ..b..... .w...... ......W.");
-    OwnRules engine(&b, 1, &statistic, 8);
-    EXPECT_FALSE(engine.FillMoveList());
-    EXPECT_EQ(engine.visited, "m1m2m3");
-    EXPECT_EQ(moveText(engine.moveList), "(1,1)x(3,3)x(5,5)");
-    b.Get({2, 2}) = 0;
-    EXPECT_TRUE(engine.FillMoveList());
-    EXPECT_EQ(engine.visited, "m1m2m3m1nN");
 }
 
 } // namespace

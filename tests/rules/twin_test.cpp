@@ -25,8 +25,7 @@ struct Findings {
     std::vector<plain::Move> moves;
     std::vector<plain::Move> quiet;
     plain::Analysis analysis;
-    int value;
-    int valueWithPassages;
+    int value, valueWithPassages;
 
     Findings(RuleSet rules, const board &b, bool gambit)
         : marked(b), quietMarked(b), moves(plain::legalMoves(rules, marked)),

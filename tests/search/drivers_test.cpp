@@ -23,36 +23,18 @@ void request(EngineRig &rig, Mode mode, int plies = 6) {
 // Searches that end at once: a win found, a single move, which loses the last man, and no move.
 TEST(Drivers, EndingsWithoutDeepening) {
     const struct {
-        const char *picture;
+        const char *picture, *move;
         bool giveAway;
-        const char *move;
-        Score score; // depth of the fixed-depth search
-        int timedDepth;
-        int nodes;
+        int score, depth, timedDepth, nodes;
         const char *line;
     } cases[] = {
-        {"w ...... ...... ...... ..w... ...... ......",
-         false,
-         "(2,2)-(3,3)",
-         {999999, 1},
-         3,
-         4,
+        {"w ...... ...... ...... ..w... ...... ......", "(2,2)-(3,3)", false, 999999, 1, 3, 4,
          "(2,2)->(3,3) 999999 \n"},
-        {"w ...... ...... ...... ..w... ...... ......",
-         true,
-         "(2,2)-(3,3)",
-         {-999999, 1},
-         3,
-         4,
+        {"w ...... ...... ...... ..w... ...... ......", "(2,2)-(3,3)", true, -999999, 1, 3, 4,
          "(2,2)->(3,3) -999999 \n"},
-        {"w ...... ..b... ...... w..... ...... ......",
-         false,
-         "(0,2)-(1,3)",
-         {-999998, 1},
-         2,
-         4,
+        {"w ...... ..b... ...... w..... ...... ......", "(0,2)-(1,3)", false, -999998, 1, 2, 4,
          "(0,2)->(1,3) -999998 \n(2,4)->(0,2) 999998 \n"},
-        {"w ...... ..b... .b.... w..... ...... ......", false, "none", {-1000000, 0}, 0, 1, ""}};
+        {"w ...... ..b... .b.... w..... ...... ......", "none", false, -1000000, 0, 0, 1, ""}};
     for (const auto &c : cases) {
         for (const Mode mode : allModes) {
             EngineRig rig(RuleSet::American, c.picture);
@@ -61,8 +43,8 @@ TEST(Drivers, EndingsWithoutDeepening) {
             rig.statistic.giveAway = c.giveAway;
             request(rig, mode);
             EXPECT_EQ(rig.search(), c.move);
-            EXPECT_EQ(rig.score.value, c.score.value);
-            EXPECT_EQ(rig.score.depth, mode == Mode::Depth ? c.score.depth : c.timedDepth);
+            EXPECT_EQ(rig.score.value, c.score);
+            EXPECT_EQ(rig.score.depth, mode == Mode::Depth ? c.depth : c.timedDepth);
             EXPECT_EQ(rig.statistic.nodes, c.nodes);
             EXPECT_EQ(rig.lineText(), c.line);
             EXPECT_EQ(rig.position.hashScore, rig.score.value);
@@ -72,15 +54,9 @@ TEST(Drivers, EndingsWithoutDeepening) {
     }
 }
 
-TEST(Drivers, HowFarTheyDeepen) {
-    for (const int plies : {1, 4}) {
-        EngineRig rig(RuleSet::International, board(8));
-        rig.statistic.setReqDepth(plies);
-        rig.search();
-        EXPECT_EQ(rig.engine->depth, 10 * plies);
-    }
+TEST(Drivers, AnIterationBeyondTheBudgetIsTheLast) {
     EngineRig rig(RuleSet::International, board(8));
-    rig.host.msPerReading = 6000; // the first iteration is over the budget
+    rig.host.msPerReading = 6000;
     rig.statistic.setReqTime(5);
     EXPECT_NE(rig.search(), "none");
     EXPECT_EQ(rig.engine->depth, 30);

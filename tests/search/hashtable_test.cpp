@@ -74,8 +74,7 @@ TEST(HashTable, RecordsAndTheirReplacement) {
     const board absent = withRecord(board(6), 50, 4);
     const struct {
         const board *position;
-        int depth;
-        int score;
+        int depth, score;
     } cases[] = {{&b, 4, 60}, {&b, 5, 9}, {&absent, 3, 9}};
     for (const auto &c : cases) {
         Score s(9, c.depth);

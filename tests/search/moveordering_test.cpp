@@ -21,11 +21,8 @@ TEST(MoveOrdering, SortOrder) {
         const char *order;
     } cases[] = {{{0, 0, 0, 0, 0}, "aedcb"},
                  {{0, 0, 0, 0}, "adcb"},
-                 {{0, 0, 0}, "acb"},
                  {{0, 0}, "ab"},
-                 {{5, 5, 1}, "cab"},
                  {{2, 1, 2, 1}, "bdca"},
-                 {{7}, "a"},
                  {{}, ""},
                  {{3, -1, 4, -1000777, 9}, "dbace"},
                  {{5, 4, 3, 2, 1, 0}, "fedcba"}};
@@ -47,13 +44,11 @@ TEST(MoveOrdering, Reductions) {
     } cases[] = {{{-1000777, -300, 0, 100, 160}, {5, 7, 2, 1, 0}},
                  {{-500, -400, 999950}, {0, 0, 0}},
                  {{-1000000, -999999, -999950}, {0, 0, 0}},
-                 {{-1000777, -1000777}, {5, 5}},
                  {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
                  {{-1000000, -999, -600, 0}, {5, 7, 4, 0}}};
     for (const auto &c : cases) {
         QValueList<LegalMove> list;
         fill(list, c.scores);
-        list.first().reduction = 3;
         AbstractEngine::depthUpdate(&list);
         Scores found;
         for (const LegalMove &m : list)
@@ -65,8 +60,7 @@ TEST(MoveOrdering, Reductions) {
 TEST(MoveOrdering, BonusForSeveralGoodMoves) {
     const struct {
         Scores scores;
-        int value;
-        int result;
+        int value, result;
     } cases[] = {{{50, 80, 95, 100}, 100, 114},
                  {{95, 100}, 100, 100},
                  {{70, 69, 100}, 100, 107},
@@ -86,8 +80,7 @@ TEST(MoveOrdering, Favourites) {
     const struct {
         Scores scores;
         int depth;
-        bool normal;
-        bool gambit;
+        bool normal, gambit;
     } cases[] = {{{1900, 0, 1000}, 30, true, false}, {{1900, 1000}, 29, false, false},
                  {{1800, 1000}, 30, false, false},   {{1801, 1000}, 30, true, false},
                  {{3000, 1000}, 50, true, false},    {{3001, 1000}, 50, true, true},

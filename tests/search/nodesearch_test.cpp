@@ -10,8 +10,7 @@ TEST(NodeSearch, WhenANodeMayBeValued) {
     EngineRig rig(RuleSet::International, board(10));
     rig.engine->depth = 35; // three levels
     constexpr struct {
-        int level;
-        int moves;
+        int level, moves;
         bool may;
     } cases[] = {{2, 5, false}, {3, 5, true},  {3, 3, true},   {3, 2, false}, {6, 2, false},
                  {7, 2, true},  {7, 1, false}, {99, 1, false}, {7, 0, false}};
@@ -29,11 +28,8 @@ TEST(NodeSearch, WhenANodeMayBeValued) {
 TEST(NodeSearch, SenselessSacrifices) {
     constexpr int none = -1000777;
     constexpr struct {
-        int alpha;
-        int beta;
-        bool gambit;
-        bool giveAway;
-        bool senseless;
+        int alpha, beta;
+        bool gambit, giveAway, senseless;
     } cases[] = {{none, 0, false, false, true},       {none, none, false, false, false},
                  {none, -499, false, false, true},    {none, -500, false, false, false},
                  {none, 0, true, false, false},       {none, 500, true, false, true},
@@ -54,9 +50,7 @@ TEST(NodeSearch, SenselessSacrifices) {
 // A record of value 40 made with beta -50 and alpha -200 at horizon 5.
 TEST(NodeSearch, TableRecordsAnswerWithinTheirWindow) {
     constexpr struct {
-        int beta;
-        int alpha;
-        int horizon;
+        int beta, alpha, horizon;
         bool usable;
         int score;
     } cases[] = {{-200, -50, 5, true, 40},       {-200, -41, 5, true, 40},
@@ -83,77 +77,31 @@ TEST(NodeSearch, TableRecordsAnswerWithinTheirWindow) {
 TEST(NodeSearch, TreesByHand) {
     const struct {
         const char *name;
-        XY white;
-        int plies;
-        Score score;
-        int nodes;
-        int valued;
-        int generated;
+        int x, y, plies, score, nodes, valued, generated;
         const char *line;
-    } cases[] = {{"the centre, and four moves within 30 points",
-                  {4, 2},
-                  1,
-                  {31, 1},
-                  6,
-                  4,
-                  24,
-                  "(4,2)->(3,3) 10 \n"},
-                 {"two equal moves: the one examined first",
-                  {2, 0},
-                  1,
-                  {0, 1},
-                  4,
-                  2,
-                  12,
-                  "(2,0)->(1,1) 0 \n"},
-                 {"black has two moves as good: 7 points",
-                  {0, 0},
-                  2,
-                  {-7, 2},
-                  9,
-                  5,
-                  27,
-                  "(0,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"},
-                 {"the second move is asked for its material first",
-                  {2, 0},
-                  2,
-                  {-7, 2},
-                  15,
-                  11,
-                  2 + 10 + 2 + 8 + 32,
-                  "(2,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"}};
+    } cases[] = {
+        {"the centre, and four moves within 30 points", 4, 2, 1, 31, 6, 4, 24,
+         "(4,2)->(3,3) 10 \n"},
+        {"two equal moves: the one examined first", 2, 0, 1, 0, 4, 2, 12, "(2,0)->(1,1) 0 \n"},
+        {"black has two moves as good: 7 points", 0, 0, 2, -7, 9, 5, 27,
+         "(0,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"},
+        {"the second move is asked for its material first", 2, 0, 2, -7, 15, 11,
+         2 + 10 + 2 + 8 + 32, "(2,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"}};
     for (const auto &c : cases) {
         board b(10);
         b.clear();
-        b.Get(c.white) = whiteKing;
+        b.squares[c.x][c.y] = whiteKing;
         b.squares[1][7] = blackKing;
         EngineRig rig(RuleSet::American, b);
         rig.statistic.setReqDepth(c.plies);
         EXPECT_NE(rig.search(), "none");
         const thinkStatistic &s = rig.statistic;
-        for (const auto &[got, want] : {std::pair(rig.score.value, c.score.value),
-                                        {rig.score.depth, c.score.depth},
-                                        {s.nodes, c.nodes},
-                                        {s.scoresCalculated, c.valued},
-                                        {s.movesGenerated, c.generated},
-                                        {s.maxLevel, c.plies},
-                                        {s.cutoffs, 0}})
-            EXPECT_EQ(got, want) << c.name;
+        EXPECT_EQ((std::vector{rig.score.value, rig.score.depth, s.nodes, s.scoresCalculated,
+                               s.movesGenerated, s.maxLevel, s.cutoffs}),
+                  (std::vector{c.score, c.plies, c.nodes, c.valued, c.generated, c.plies, 0}))
+            << c.name;
         EXPECT_EQ(rig.lineText(), c.line) << c.name;
     }
-}
-
-TEST(NodeSearch, Trace) {
-    EngineRig rig(RuleSet::International, "w ...... ...... ...... ..w... ...... ......");
-    rig.engine->depth = 10;
-    rig.engine->FillMoveList();
-    testing::internal::CaptureStdout();
-    rig.engine->getBestMove(0, rig.score, Score(-1000777, -1), Score(-1000777, -1), rig.line, true);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "\n thisKey=\t " + std::to_string(rig.position.HKey()) +
-                  " \tlevel=0\t Depth=10 < -1000777, 1000777 >\n"
-                  "m=1/2\t tScore=0\t score=999999\t \n"
-                  "m=0/2\t tScore=0\t score=999999\t \n");
 }
 
 TEST(NodeSearch, FullTreeDump) {

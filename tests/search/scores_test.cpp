@@ -11,8 +11,7 @@ namespace {
 TEST(Score, KindsOfValue) {
     const struct {
         int value;
-        bool none;
-        bool decided;
+        bool none, decided;
     } cases[] = {{-1000777, true, false}, {1000777, true, false},  {-1000776, false, true},
                  {999900, false, false},  {-999900, false, false}, {999901, false, true},
                  {-999901, false, true},  {0, false, false}};

@@ -28,21 +28,6 @@ struct Thinking : thinkStatistic {
     }
 };
 
-TEST(ThinkStatistic, RequestsForgetTheCredit) {
-    Thinking t(5, 77);
-    t.setReqDepth(0); // no request at all
-    EXPECT_EQ(t.getReqTime(), 5);
-    EXPECT_EQ(t.timeCredit, 77);
-    t.setReqDepth(3);
-    EXPECT_EQ(t.getReqTime(), -1);
-    EXPECT_EQ(t.getReqDepth(), 3);
-    EXPECT_EQ(t.timeCredit, 0);
-    t.timeCredit = 77;
-    t.setReqTime(10);
-    EXPECT_EQ(t.getReqDepth(), -1);
-    EXPECT_EQ(t.timeCredit, 0);
-}
-
 TEST(ThinkStatistic, ATimedMoveAndTheNext) {
     Thinking t;
     EXPECT_TRUE(t.canTryAt(150, 10));
@@ -89,11 +74,7 @@ TEST(ThinkStatistic, Budgets) {
 
 TEST(ThinkStatistic, TheCreditAfterAMove) {
     constexpr struct {
-        int seconds;
-        int credit;
-        int usedMs;
-        int moves;
-        int after;
+        int seconds, credit, usedMs, moves, after;
     } cases[] = {{5, 0, 6000, 1, 0},
                  {5, 0, 6000, 2, -1000},
                  {60, INT_MAX - 5, 0, 5, INT_MAX},

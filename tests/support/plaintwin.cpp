@@ -132,39 +132,31 @@ int kingValue(RuleSet rules, const board &b, XY p, bool gambit, bool first) {
     return (first ? 1900 : 1800) + (central ? 10 : 0) + (View{b}.edge(p) ? -100 : 10);
 }
 
-// The squares that each side has reached so far, and the inner squares next to them.
-struct Flood {
-    const board &b;
-    Analysis &a;
-    View view{b};
-    bool controlled[2][12][12] = {};
+// An inner square next to one that the side holds or has reached.
+bool controlled(const View &view, const Analysis &a, XY p, bool white) {
+    bool found = false;
+    for (int d = 0; d < 4 && !view.edge(p); ++d)
+        found |= a.owner[step(p, d).x][step(p, d).y] == (white ? 4 : 8);
+    return found;
+}
 
-    void claim(XY p, bool white, int reach) {
-        a.reach[p.x][p.y] = reach;
-        a.owner[p.x][p.y] = white ? 4 : 8;
-        for (int d = 0; d < 4; ++d) {
-            const XY q = step(p, d);
-            if (view.has(q) && !view.edge(q))
-                controlled[white][q.x][q.y] = true;
+// One row further from every square that the side reached at `now`; kings do not advance.
+bool advance(const View &view, Analysis &a, bool white, int now) {
+    bool changed = false;
+    eachSquare(view.b, [&](XY p, int code) {
+        if (a.reach[p.x][p.y] != now || a.owner[p.x][p.y] != (white ? 4 : 8) ||
+            (now == 1 && !isMan(code)))
+            return;
+        for (const XY to : {step(p, white ? 3 : 2), step(p, white ? 0 : 1)}) {
+            if (!view.has(to) || a.reach[to.x][to.y] != 0 || controlled(view, a, to, !white))
+                continue;
+            a.reach[to.x][to.y] = now + 1;
+            a.owner[to.x][to.y] = white ? 4 : 8;
+            changed = true;
         }
-    }
-    // One row further from every square reached at `now`; kings do not advance.
-    bool advance(bool white, int now) {
-        bool changed = false;
-        eachSquare(b, [&](XY p, int code) {
-            if (a.reach[p.x][p.y] != now || a.owner[p.x][p.y] != (white ? 4 : 8) ||
-                (now == 1 && !isMan(code)))
-                return;
-            for (const XY to : {step(p, white ? 3 : 2), step(p, white ? 0 : 1)}) {
-                if (!view.has(to) || a.reach[to.x][to.y] != 0 || controlled[!white][to.x][to.y])
-                    continue;
-                claim(to, white, now + 1);
-                changed = true;
-            }
-        });
-        return changed;
-    }
-};
+    });
+    return changed;
+}
 
 // Walks back from the promotion row; black's walk ends one row earlier than white's.
 void markPassages(int n, Analysis &a, int side) {
@@ -245,15 +237,15 @@ unsigned int key(const board &b) {
 
 Analysis analyse(const board &b) {
     Analysis a;
-    Flood flood{b, a};
+    const View view{b};
     eachSquare(b, [&](XY p, int code) {
-        if (code != 0)
-            flood.claim(p, isWhite(code), 1);
+        a.reach[p.x][p.y] = code != 0;
+        a.owner[p.x][p.y] = code / 4 % 4 * 4;
     });
     bool changed = true;
     for (int now = 1; changed && now <= b.size; ++now) {
-        changed = flood.advance(b.whiteToMove, now);
-        changed |= flood.advance(!b.whiteToMove, now);
+        changed = advance(view, a, b.whiteToMove, now);
+        changed |= advance(view, a, !b.whiteToMove, now);
     }
     int squares[9] = {};
     eachSquare(b, [&](XY p, int) {

@@ -31,8 +31,7 @@ const QString empty(72, '-');
 TEST(Bench, BadTasksAreNamedByTheirLine) {
     const QString good = "a polish giveaway 3 6 1 0 0 -1 " + empty + "\n";
     const struct {
-        QString task;
-        QString error;
+        QString task, error;
     } cases[] = {
         {good, ""},
         {"a polish normal", "line 4: expected a name, the rules, normal or giveaway, a depth and a "
@@ -54,21 +53,19 @@ TEST(Bench, BadTasksAreNamedByTheirLine) {
 
 TEST(PositionLine, IsChecked) {
     const struct {
-        QString line;
-        QString error;
-    } cases[] = {
-        {"6 3 0 0 -1 bK" + empty.mid(2), ""},
-        {"  6  3 0 0 -1  bK" + empty.mid(2) + "\n", ""},
-        {"", "a position has 6 fields (size, ply, key, score, horizon, squares), not 0"},
-        {"6 3 0 0 -1 " + empty + " x",
-         "a position has 6 fields (size, ply, key, score, horizon, squares), not 7"},
-        {"x 3 0 0 -1 " + empty, "the size must be 6, 8, 10 or 12, not \"x\""},
-        {"6 -1 0 0 -1 " + empty, "the ply counter is not a number from 0 up"},
-        {"6 3 -1 0 -1 " + empty, "the key is not a number"},
-        {"6 3 0 0 far " + empty, "score and horizon must be numbers"},
-        {"6 3 0 0 -1 " + empty.mid(1), "expected 72 letters for 36 squares, found 71"},
-        {"6 3 0 0 -1 " + empty.mid(2) + "km", "unknown square \"km\" at (5,5)"},
-        {"6 3 0 0 -1 --wm" + empty.mid(4), "a piece on the light square (0,1)"}};
+        QString line, error;
+    } cases[] = {{"6 3 0 0 -1 bK" + empty.mid(2), ""},
+                 {"  6  3 0 0 -1  bK" + empty.mid(2) + "\n", ""},
+                 {"", "a position has 6 fields (size, ply, key, score, horizon, squares), not 0"},
+                 {"6 3 0 0 -1 " + empty + " x",
+                  "a position has 6 fields (size, ply, key, score, horizon, squares), not 7"},
+                 {"x 3 0 0 -1 " + empty, "the size must be 6, 8, 10 or 12, not \"x\""},
+                 {"6 -1 0 0 -1 " + empty, "the ply counter is not a number from 0 up"},
+                 {"6 3 -1 0 -1 " + empty, "the key is not a number"},
+                 {"6 3 0 0 far " + empty, "score and horizon must be numbers"},
+                 {"6 3 0 0 -1 " + empty.mid(1), "expected 72 letters for 36 squares, found 71"},
+                 {"6 3 0 0 -1 " + empty.mid(2) + "km", "unknown square \"km\" at (5,5)"},
+                 {"6 3 0 0 -1 --wm" + empty.mid(4), "a piece on the light square (0,1)"}};
     for (const auto &c : cases) {
         QString error;
         const std::optional<board> b = readPositionLine(c.line, error);
