@@ -66,6 +66,16 @@ TEST_F(GameTest, ForceMoveBetweenTwoPeopleBringsTheComputerIn) {
     EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
 }
 
+// As slow as a person's: the press comes in one flight and the release in the next.
+TEST_F(GameTest, BreakHeldWhileAPieceLandsCounts) {
+    place(startOfTen, computers);
+    const QPoint at = game.btnBreak->geometry().center();
+    QTest::mousePress(game.windowHandle(), Qt::LeftButton, {}, at);
+    land();
+    QTest::mouseRelease(game.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), 0);
+}
+
 TEST_F(GameTest, NewGameAsksOnlyWhenThereIsAGameToLose) {
     press(game.btnNewGame);
     EXPECT_EQ(boxes(), "");
