@@ -43,18 +43,8 @@ TEST_F(GameTest, BreakEndsALongSearchAndKeepsItsSide) {
     }
 }
 
-TEST_F(GameTest, BreakDuringTheFlightGivesTheComputerTheNextMoveToo) {
-    press(game.btnForce);
-    ASSERT_TRUE(game.flying);
-    EXPECT_EQ(status(), "[] 20/20 Break");
-    press(game.btnBreak);
-    land(2);
-    EXPECT_TRUE(game.pBoard->whiteToMove);
-    EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
-    EXPECT_EQ(game.blackComputer, 1);
-}
-
-TEST_F(GameTest, ForceMoveBetweenTwoPeopleBringsTheComputerIn) {
+TEST_F(GameTest, ForceMoveBringsTheComputerInForOneMoveOrWithBreakForTwo) {
+    const std::string after = "[Your Move] 20/20 Prev About Force Settings NewGame";
     place(startOfTen, humans);
     tap(5, 3);
     press(game.btnForce);
@@ -63,7 +53,16 @@ TEST_F(GameTest, ForceMoveBetweenTwoPeopleBringsTheComputerIn) {
     EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), 0);
     EXPECT_FALSE(game.pBoard->whiteToMove);
     EXPECT_EQ(game.pHist->getBoard()->plyCount, 0) << "recorded before it is counted";
-    EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
+    EXPECT_EQ(status(), after);
+    place(startOfTen, 0);
+    press(game.btnForce);
+    ASSERT_TRUE(game.flying);
+    EXPECT_EQ(status(), "[] 20/20 Break");
+    press(game.btnBreak);
+    land(2);
+    EXPECT_TRUE(game.pBoard->whiteToMove);
+    EXPECT_EQ(game.blackComputer, 1);
+    EXPECT_EQ(status(), after);
 }
 
 // As slow as a person's: the press comes in one flight and the release in the next.

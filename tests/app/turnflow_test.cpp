@@ -34,23 +34,25 @@ TEST_F(GameTest, TapsSelectReselectAndClear) {
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
     EXPECT_EQ(shown(), picture(drawn(startOfTen)));
     expectAgreement();
-    tap(5, 3);
-    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
-    EXPECT_EQ(squareColour(4, 4), blue);
-    tap(9, 3);
-    EXPECT_EQ(marked(MarkNext), "(8,4)");
-    tap(8, 4 + 2);
-    EXPECT_EQ(marked(MarkNext), "") << "a black man";
-    tap(1, 3);
-    EXPECT_EQ(marked(MarkNext), "(0,4) (2,4)");
-    tap(4, 4);
-    EXPECT_EQ(marked(MarkNext), "") << "an empty square that was not offered";
-    EXPECT_EQ(squareColour(0, 4), grey);
-    press(game.pView->viewport(), QPoint(23 * 4 + 11, 23 * 6 + 11));
-    EXPECT_EQ(marked(MarkNext), "") << "a light square";
-    tap(5, 3);
-    tap(5, 3); // also quickly, as a double click
-    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
+    const std::string both = "(4,4) (6,4)";
+    const struct {
+        const char *what, *square;
+        std::string offered;
+    } cases[] = {
+        {"a man", "53", both},
+        {"another", "93", "(8,4)"},
+        {"a black man", "86", ""},
+        {"a man again", "13", "(0,4) (2,4)"},
+        {"a square not offered", "44", ""},
+        {"a man", "53", both},
+        {"a light square", "43", both},
+        {"the same again, as a double click", "53", both},
+    };
+    for (const auto &[what, square, offered] : cases) {
+        taps(square);
+        EXPECT_EQ(marked(MarkNext), offered) << what;
+        EXPECT_EQ(squareColour(4, 4), offered == both ? blue : grey);
+    }
 }
 
 TEST_F(GameTest, NothingButTheFlightActsWhileThePlayersManFlies) {
@@ -212,7 +214,7 @@ TEST_F(GameTest, ReportsSpritesAndTurnsThatAreOutOfStep) {
     EXPECT_EQ(boxes(), "Game Over: Game Over; DoPlayerMove: level>1; Game Over: Game Over; ");
 }
 
-TEST_F(GameTest, EditingCyclesThroughThePieces) {
+TEST_F(GameTest, EditsSquaresAndShowsWhoOwnsThem) {
     for (const int code : {5, 9, 6, 10, 0}) {
         game.setPosXY(4, 4, false);
         EXPECT_EQ(game.pBoard->squares[4][4], code);
@@ -223,9 +225,6 @@ TEST_F(GameTest, EditingCyclesThroughThePieces) {
     game.DoPlayerMove();
     EXPECT_EQ(game.labelScore->text(), QStringLiteral("19/20"));
     expectAgreement();
-}
-
-TEST_F(GameTest, ShowsWhoOwnsTheSquaresAndTheMoveInFlight) {
     game.markTakenField();
     EXPECT_EQ(squareColour(1, 1), QColor(108, 128, 108));
     EXPECT_EQ(squareColour(1, 9), QColor(128, 108, 108));

@@ -73,7 +73,6 @@ TEST_F(Forms, CutOffNoTextAndNoPicture) {
     }
     EXPECT_LE(game.labelScore->fontMetrics().horizontalAdvance("20/20"), 34);
     EXPECT_EQ(about.PixmapLabel1->size(), QSize(80, 81));
-    EXPECT_EQ(game.btnForce->geometry(), QRect(130, 235, 60, 22));
 }
 
 TEST_F(Forms, SetTheirFontsAgainWhenTheApplicationsChanges) {

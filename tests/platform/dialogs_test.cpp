@@ -25,8 +25,8 @@ namespace {
 
 using Buttons = QDialogButtonBox;
 
-void click(QDialog &dialog, Buttons::StandardButton which) {
-    dialog.findChild<Buttons *>()->button(which)->click();
+QPushButton *button(const QDialog &dialog, Buttons::StandardButton which) {
+    return dialog.findChild<Buttons *>()->button(which);
 }
 
 // Does `act` to the next dialog that opens.
@@ -52,13 +52,12 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
     const auto key = [](Qt::Key k) {
         return [k](QDialog &dialog) { QTest::keyClick(&dialog, k); };
     };
+    const auto ok = [](QDialog &dialog) { button(dialog, Buttons::Ok)->click(); };
+    const auto cancel = [](QDialog &dialog) { button(dialog, Buttons::Cancel)->click(); };
     const auto onCancel = [](QDialog &dialog) {
-        QPushButton *cancel = dialog.findChild<Buttons *>()->button(Buttons::Cancel);
-        cancel->setFocus();
-        QTest::keyClick(cancel, Qt::Key_Return);
+        button(dialog, Buttons::Cancel)->setFocus();
+        QTest::keyClick(button(dialog, Buttons::Cancel), Qt::Key_Return);
     };
-    const auto ok = [](QDialog &dialog) { click(dialog, Buttons::Ok); };
-    const auto cancel = [](QDialog &dialog) { click(dialog, Buttons::Cancel); };
     const struct {
         const char *way;
         std::function<bool()> show;
@@ -97,7 +96,7 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
     EXPECT_LE(settings.chGiveAway->geometry().bottom(), 170 - 11);
     EXPECT_GE(settings.findChild<ControlRow *>()->y(), 170);
     EXPECT_EQ(about.minimumSize(), QSize(220, 200 + row));
-    EXPECT_EQ(about.findChild<Buttons *>()->buttons().size(), 1) << "nothing to choose";
+    EXPECT_EQ(button(about, Buttons::Cancel), nullptr) << "nothing to choose";
     formsettings modeless;
     modeless.show();
     EXPECT_EQ(modeless.findChild<ControlRow *>(), nullptr);

@@ -4,6 +4,7 @@
 #include "tests/view/boardfixture.h"
 
 #include <QImage>
+#include <QMap>
 #include <QPixmap>
 #include <QSignalSpy>
 #include <QTest>
@@ -11,21 +12,11 @@
 namespace {
 
 struct BoardTest : BoardFixture {
-    std::string pixel(int x, int y) {
-        return view.viewport()->grab().toImage().pixelColor(x, y).name().toStdString();
-    }
-    static char letter(const QColor &colour) {
-        const std::string name = colour.name().toStdString();
-        return name == "#000000"   ? '#'
-               : name == "#ffffff" ? 'w'
-               : name == "#ff0000" ? 'r'
-               : name == "#00ff00" ? 'x'
-               : name == "#767676" ? '.'
-                                   : '?';
-    }
-    // A pixel of the square's fill that no piece covers.
+    // The colour of a square's fill that no piece covers.
     std::string fill(int bx, int by) {
-        return pixel(metrics.BxToScr(bx) + 1, metrics.ByToScr(by) + 1);
+        const QImage image = view.viewport()->grab().toImage();
+        const QPoint inside(metrics.BxToScr(bx) + 1, metrics.ByToScr(by) + 1);
+        return image.pixelColor(inside).name().toStdString();
     }
 };
 
@@ -70,12 +61,11 @@ TEST_F(BoardTest, SquaresTakeTheColoursOfMarksAndOwners) {
         {3, 4, MarkNext, 8, "#8a8a8a", "#8a8a8a"},
     };
     for (const auto &[bx, by, mark, owner, marked, owned] : cases) {
-        SCOPED_TRACE(testing::Message() << bx << ',' << by);
         canvas.markSQ(bx, by, mark);
-        EXPECT_EQ(fill(bx, by), marked);
+        EXPECT_EQ(fill(bx, by), marked) << bx << ',' << by;
         EXPECT_EQ(canvas.isMarked(bx, by), (bx + by) % 2 == 0 ? mark : MarkNone);
         canvas.ownedBy(bx, by, owner);
-        EXPECT_EQ(fill(bx, by), owned);
+        EXPECT_EQ(fill(bx, by), owned) << bx << ',' << by;
     }
     canvas.reset();
     EXPECT_EQ(canvas.isMarked(4, 4), MarkNone);
@@ -98,14 +88,19 @@ TEST_F(BoardTest, PiecesAreDiscsOfSeventeenPixelsWithCentreAndCross) {
         {5 + 16, "#..wwwwwwxxxxxwwwwww..#"}, {10 + 16, "#..####rrxxxxxrr####..#"},
         {5 + 32, "#..wwwwwwwwwwwwwwwww..#"}, {0, "#.....................#"},
     };
+    const QMap<QRgb, char> letters = {{qRgb(0, 0, 0), '#'},
+                                      {qRgb(255, 255, 255), 'w'},
+                                      {qRgb(255, 0, 0), 'r'},
+                                      {qRgb(0, 255, 0), 'x'},
+                                      {qRgb(118, 118, 118), '.'}};
     const RecordingHost host;
     for (const auto &[code, middle] : cases) {
         const std::unique_ptr<DrCanvasPiece> piece(place(code, 2, 2));
         const QImage square = view.viewport()->grab(QRect(46, 161, 23, 23)).toImage();
         std::string row, column;
         for (int at = 0; at < 23; ++at) {
-            row += letter(square.pixelColor(at, 11));
-            column += letter(square.pixelColor(11, at));
+            row += letters.value(square.pixel(at, 11), '?');
+            column += letters.value(square.pixel(11, at), '?');
         }
         EXPECT_EQ(row, middle) << code;
         EXPECT_EQ(column, middle) << code;

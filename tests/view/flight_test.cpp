@@ -5,15 +5,16 @@
 
 #include <QSignalSpy>
 
-#include <vector>
+#include <string>
 
 namespace {
 
 struct FlightTest : BoardFixture {
-    static QArray<XY> pathOf(const std::vector<XY> &squares) {
+    // "44 24": columns and rows.
+    static QArray<XY> pathOf(const std::string &squares) {
         QArray<XY> path;
-        for (const XY &square : squares)
-            path.append(square);
+        for (std::size_t i = 0; i < squares.size(); i += 3)
+            path.append({squares[i] - '0', squares[i + 1] - '0'});
         return path;
     }
     // Steps until the dance is over; the number of steps, or 1000 when it never ends.
@@ -41,7 +42,7 @@ struct FlightTest : BoardFixture {
 TEST_F(FlightTest, OneSquareTakesSixStepsAndBearsNoSecondPath) {
     RecordingHost host;
     DrCanvasPiece *piece = place(5, 3, 3);
-    QArray<XY> path = pathOf({{4, 4}});
+    QArray<XY> path = pathOf("44");
     piece->setDanceTo(&path);
     EXPECT_EQ(canvas.isMarked(3, 3), MarkPath);
     for (int step = 1; step <= 5; ++step) {
@@ -51,7 +52,7 @@ TEST_F(FlightTest, OneSquareTakesSixStepsAndBearsNoSecondPath) {
         EXPECT_NEAR(piece->y(), 138 - step * 23 / 5.0, 1e-9);
         EXPECT_EQ(canvas.isMarked(4, 4), MarkNone);
     }
-    QArray<XY> second = pathOf({{2, 4}});
+    QArray<XY> second = pathOf("24");
     piece->setDanceTo(&second);
     const std::vector<RecordingHost::Box> box{
         {BoxKind::Warning, "DrCanvasPiece::setDanceTo", "still busy"}};
@@ -65,15 +66,13 @@ TEST_F(FlightTest, OneSquareTakesSixStepsAndBearsNoSecondPath) {
 // Five steps a square and one more to end each leg.
 TEST_F(FlightTest, PathsEndOnTheirLastSquareAfterAllTheirLegs) {
     const struct {
-        std::vector<XY> path;
-        int steps;
-    } cases[] = {
-        {{{3, 3}, {5, 1}, {9, 5}}, 11 + 11 + 21},
-        {{{5, 5}, {5, 5}, {1, 1}}, 21 + 1 + 21}, // round, and a leg of no length
-        {{{1, 1}}, 1},
-        {{}, 0},
-    };
-    for (const auto &[squares, steps] : cases) {
+        const char *squares;
+        int legs, steps;
+    } cases[] = {{"33 51 95", 3, 11 + 11 + 21},
+                 {"55 55 11", 3, 21 + 1 + 21}, // round, and a leg of no length
+                 {"11", 1, 1},
+                 {"", 0, 0}};
+    for (const auto &[squares, legs, steps] : cases) {
         SCOPED_TRACE(steps);
         DrCanvasPiece *piece = place(5, 1, 1);
         QArray<XY> path = pathOf(squares);
@@ -83,8 +82,8 @@ TEST_F(FlightTest, PathsEndOnTheirLastSquareAfterAllTheirLegs) {
         EXPECT_EQ(stepsToEnd(piece), steps);
         const XY end = path.isEmpty() ? XY(1, 1) : path.last();
         expectAtRestOn(piece, end.x, end.y);
-        EXPECT_EQ(flights.count(), static_cast<int>(squares.size()));
-        EXPECT_EQ(dances.count(), path.isEmpty() ? 0 : 1);
+        EXPECT_EQ(flights.count(), legs);
+        EXPECT_EQ(dances.count(), legs > 0 ? 1 : 0);
         for (const XY &square : path)
             EXPECT_EQ(canvas.isMarked(square.x, square.y), MarkPath);
     }
@@ -94,7 +93,7 @@ TEST_F(FlightTest, ABoardResizedInFlightStillLandsOnItsSquare) {
     for (const int pixels : {60, 120, 400}) {
         metrics.setWH(230, 230);
         DrCanvasPiece *piece = place(5, 1, 1);
-        QArray<XY> path = pathOf({{5, 5}, {3, 7}});
+        QArray<XY> path = pathOf("55 37");
         piece->setDanceTo(&path);
         piece->advance(1);
         metrics.setWH(pixels, pixels);
