@@ -4,8 +4,11 @@
 #include "rules/bitposition.h"
 #include "rules/intengine.h"
 #include "rules/legalmove.h"
+#include "search/hashtable.h"
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -58,8 +61,8 @@ private:
             const BitMove<N> m = stack_[i];
             bool known = false;
             for (std::size_t j = first; j < kept; ++j) {
-                known |= stack_[j].from == m.from && stack_[j].to == m.to &&
-                         stack_[j].taken == m.taken;
+                known |=
+                    stack_[j].from == m.from && stack_[j].to == m.to && stack_[j].taken == m.taken;
             }
             if (!known)
                 stack_[kept++] = m;
@@ -124,9 +127,16 @@ std::vector<Perft::Share> Perft::divide(int depth) const {
     const std::unique_ptr<AbstractEngine> engine(newEngine(rules_, &b, 1, nullptr, b.size));
     engine->FillMoveList();
     std::vector<Share> shares;
+    std::vector<std::pair<XY, board>> played;
     for (const LegalMove &m : engine->moveList) {
         board after = b;
         engine->makeMove(&after, &m);
+        const auto isSame = [&](const auto &other) {
+            return other.first == m.from() && hashTable::areEqual(&other.second, &after);
+        };
+        if (distinct_ && std::any_of(played.begin(), played.end(), isSame))
+            continue;
+        played.emplace_back(m.from(), after);
         QString notation;
         m.ToString(notation);
         shares.push_back({notation, countFrom(after, depth - 1)});
