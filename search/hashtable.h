@@ -15,14 +15,14 @@ struct Score;
 // after eleven occupied slots a look-up gives up.
 class hashTable {
 public:
-    const int size; // number of slots
-    int count;      // number of occupied slots
+    const int size;                   // number of slots
+    int count;                        // number of occupied slots
     std::unique_ptr<board[]> Tboards; // stored positions; the table owns them
     std::unique_ptr<int[]> Tscore;    // stored hashScore of each slot
     std::unique_ptr<bool[]> Tempty;   // true for a free slot
 
-    // Allocates `entries` slots, all free. For each array that cannot be allocated an information box
-    // says so; such a table finds and stores nothing.
+    // Allocates `entries` slots, all free. For each array that cannot be allocated an information
+    // box says so; such a table, and one without slots, finds and stores nothing.
     explicit hashTable(int entries);
     ~hashTable();
     hashTable(const hashTable &) = delete;
@@ -42,7 +42,8 @@ public:
     // Stores a position with its search record: 1, or 0 when there is no room on its probe path or
     // a record with the same or a farther horizon is there already.
     int insert(const board *b);
-    // Stores a position in slot `idx` without probing: 1, or 0 when its two window bounds are equal.
+    // Stores a position in slot `idx` without probing: 1, or 0 when its two window bounds are
+    // equal.
     int insert(const board *b, unsigned int idx);
 
     // If the position is stored with a horizon beyond `s.depth`, `s` becomes its score and horizon
@@ -59,8 +60,8 @@ public:
     // no search fits into, so they can be looked up but never answer a search. Always 0.
     int fromStream(QTextStream &ts, int n);
 
-    // Follows the probe path from `slot` to the first slot that is free or for which `wanted` holds:
-    // true and that slot; false and 0 when there is none within the limit.
+    // Follows the probe path from `slot` to the first slot that is free or for which `wanted`
+    // holds: true and that slot; false and 0 when there is none within the limit.
     template <class Wanted>
     bool probe(unsigned int slot, Wanted wanted, unsigned int &idx) const {
         unsigned int step = 1;
@@ -76,12 +77,13 @@ public:
     }
     // Stores a position with its record in slot `idx`, whatever is there.
     void place(unsigned int idx, const board *b);
-    // All arrays were allocated.
-    bool usable() const { return Tboards != nullptr && Tscore != nullptr && Tempty != nullptr; }
+    // There are slots, and all arrays were allocated.
+    bool usable() const {
+        return size > 0 && Tboards != nullptr && Tscore != nullptr && Tempty != nullptr;
+    }
 
 private:
     static constexpr int probeLimit = 10; // a look-up compares one slot more than this
-
 };
 
 #endif

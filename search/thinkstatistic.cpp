@@ -20,7 +20,6 @@ int clampToInt(qint64 n) {
 thinkStatistic::thinkStatistic()
     : timeCredit(0), giveAway(false), scoreNoise(0), reqTime(5), reqDepth(-1) {
     clear();
-    timer = ElapsedTime();
 }
 
 void thinkStatistic::newGame() {

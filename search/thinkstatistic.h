@@ -31,7 +31,7 @@ public:
     int reqDepth;            // plies; -1 when a time is requested
     ElapsedTime timer;       // clock of the running search
 
-    // 5 seconds a move, no credit, no give-away, no noise.
+    // 5 seconds a move, no credit, no give-away, no noise; counters and clock as clear() sets them.
     thinkStatistic();
 
     // Forgets the time credit and the counters.
