@@ -61,8 +61,8 @@ void Draughts::setRules(int index) {
     const std::optional<RuleSet> rules = rulesChoice(index);
     if (!rules.has_value())
         reportUnknown("Draughts::setRules", "unknown rules, using international");
-    adoptEngine(newEngine(rules.value_or(fallbackRules), pBoard.get(), 1, pStat.get(),
-                          pMetrics->size));
+    adoptEngine(
+        newEngine(rules.value_or(fallbackRules), pBoard.get(), 1, pStat.get(), pMetrics->size));
     pEngine->FillMoveList();
 }
 

@@ -51,9 +51,9 @@ private:
     static constexpr int mostCounted = 4;
 
     struct Side {
-        Bits next;          // squares one step in front of those reached in the last step
-        Bits open;          // squares it may still claim: free, and not controlled by the other side
-        Bits reached = 0;   // squares reached in all steps
+        Bits next;        // squares one step in front of those reached in the last step
+        Bits open;        // squares it may still claim: free, and not controlled by the other side
+        Bits reached = 0; // squares reached in all steps
         Bits layers[N + 2]; // squares reached by step; layer 1: the men
         int last = 1;       // the highest layer that holds a square
 
@@ -107,8 +107,7 @@ private:
         Bits passage = 0;
         for (int layer = side.last; layer > 1; --layer) {
             passage = (Squares::template forward<!White>(passage) |
-                       Squares::template promotionRow<White>) &
-                      side.layers[layer];
+                       Squares::template promotionRow<White>)&side.layers[layer];
         }
         return Squares::template forward<!White>(passage) & side.layers[1];
     }

@@ -81,11 +81,11 @@ public:
     // White's points minus black's. `whitePassage` and `blackPassage` are the men on a free path to
     // promotion; short-king rules give nothing for those.
     int balance(const BitPosition<N> &p, Bits whitePassage, Bits blackPassage) const {
-        int points = sidePoints(p.white, p.kings, whiteValues_) -
-                     sidePoints(p.black, p.kings, blackValues_);
+        int points =
+            sidePoints(p.white, p.kings, whiteValues_) - sidePoints(p.black, p.kings, blackValues_);
         if (FlyingKings && (whitePassage | blackPassage) != 0)
-            points += passageStep(N) * (rowsAdvanced<true>(whitePassage) -
-                                        rowsAdvanced<false>(blackPassage));
+            points += passageStep(N) *
+                      (rowsAdvanced<true>(whitePassage) - rowsAdvanced<false>(blackPassage));
         return points;
     }
 

@@ -7,7 +7,8 @@
 namespace {
 
 int controlMark(int colour) {
-    return colour == codeWhite ? heuristic::markControlledByWhite : heuristic::markControlledByBlack;
+    return colour == codeWhite ? heuristic::markControlledByWhite
+                               : heuristic::markControlledByBlack;
 }
 
 int otherColour(int colour) {

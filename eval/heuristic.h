@@ -15,11 +15,7 @@ class board;
 class heuristic {
 public:
     // Marks that stand in `flags` beside the bits of a square code.
-    enum Mark : int {
-        markControlledByWhite = 64,
-        markControlledByBlack = 128,
-        markPassage = 256
-    };
+    enum Mark : int { markControlledByWhite = 64, markControlledByBlack = 128, markPassage = 256 };
 
     struct Cell {
         int reach = 0; // 0 not reached, 1 occupied, k: reached by a man after k - 1 forward steps

@@ -24,9 +24,10 @@ public:
 
     bool messageBox(BoxKind kind, const QString &title, const QString &text,
                     BoxButtons buttons = BoxButtons::Ok, QWidget *parent = nullptr) override;
-    // Enters the toolkit when a millisecond has passed since the last time, and else returns at once.
-    // A search asks some forty thousand times a second; entering costs more than a microsecond, a
-    // look at the clock a fortieth of that, and nobody can tell a click answered a millisecond later.
+    // Enters the toolkit when a millisecond has passed since the last time, and else returns at
+    // once. A search asks some forty thousand times a second; entering costs more than a
+    // microsecond, a look at the clock a fortieth of that, and nobody can tell a click answered a
+    // millisecond later.
     void processEvents() override;
     void beep() override;
 

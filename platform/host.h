@@ -1,4 +1,5 @@
-// What the program wants from the machine it runs on besides drawing: boxes, events, sounds and time.
+// What the program wants from the machine it runs on besides drawing: boxes, events, sounds and
+// time.
 #ifndef PLATFORM_HOST_H
 #define PLATFORM_HOST_H
 

@@ -68,6 +68,11 @@ public:
         ++count_;
         return *added;
     }
+    T &append(T &&value) {
+        T *added = new (freshSlot()) T(std::move(value));
+        ++count_;
+        return *added;
+    }
     // Removes every element from index `count` on.
     void truncate(int count) {
         while (count_ > count)

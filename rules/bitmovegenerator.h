@@ -12,7 +12,7 @@
 struct RuleTraits {
     bool menCaptureBackwards;
     bool flyingKings;
-    bool maximumCapture; // only the captures that take the most pieces are legal
+    bool maximumCapture;     // only the captures that take the most pieces are legal
     const char *manCapture;  // the operation that reports a man's capture beyond the limit
     const char *kingCapture; // the same for a king's; flying kings have no limit
 };

@@ -169,8 +169,8 @@ struct DarkSquares {
     template <int d>
     static constexpr Bits rim = all & ~step<oppositeDirection(d)>(all);
 
-    // The nearest of `set` on the ray that leaves square i in direction d, as a set; empty when there
-    // is none.
+    // The nearest of `set` on the ray that leaves square i in direction d, as a set; empty when
+    // there is none.
     template <int d>
     static constexpr Bits nearest(int i, Bits set) {
         const Bits seen = rays<d>[static_cast<unsigned>(i)] & set;

@@ -189,7 +189,8 @@ void IntEngine::genNManMove(XY pos, int code, QValueList<LegalMove> *list, ::boa
 
 void IntEngine::genNKingMove(XY pos, int, QValueList<LegalMove> *list, ::board *b) {
     for (const XY &step : jmpInter) {
-        for (XY target = pos + step; target.onBoard() && b->Get(target) == 0; target = target + step)
+        for (XY target = pos + step; target.onBoard() && b->Get(target) == 0;
+             target = target + step)
             list->append(LegalMove(pos, target));
     }
 }

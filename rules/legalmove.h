@@ -21,8 +21,8 @@ public:
     int score = 0;
     // Tenths of a ply that the search cuts from the depth budget below this move.
     int reduction = 0;
-    QArray<XY> path;  // start square first, then every landing square
-    QArray<XY> taken; // captured squares in the order they are jumped
+    QArray<XY> path;                     // start square first, then every landing square
+    QArray<XY> taken;                    // captured squares in the order they are jumped
     AbstractEngine *subEngine = nullptr; // engine of the position after the move
     board *subBoard = nullptr;           // that position
 

@@ -25,20 +25,20 @@ class thinkStatistic;
 // statistics: only `breakThinking` may be set.
 class AbstractEngine {
 public:
-    int depth;                     // the search's depth budget, tenths of a ply
-    ::board *board;                // the position, not owned
-    int size;                      // squares a side
+    int depth;                      // the search's depth budget, tenths of a ply
+    ::board *board;                 // the position, not owned
+    int size;                       // squares a side
     QValueList<LegalMove> moveList; // as of the last FillMoveList()
-    thinkStatistic *statistic;     // not owned, shared by all engines of a game
+    thinkStatistic *statistic;      // not owned, shared by all engines of a game
 
-    static bool breakThinking;     // request to stop the running search
-    static bool isGambit;          // few pieces are left in the game's position
-    static int eventLoop;          // nodes until pending events are processed
-    static int absHorizon;         // ply counter at the horizon of the running iteration
-    static SquaresValue *pSQV;     // the square values in force, not owned
-    static hashTable *pHT;         // the transposition table, not owned
-    static const XY jmpInter[4];   // the four diagonal steps, in the order all loops take them
-    static const XY jmpEnd[4];     // the same, doubled
+    static bool breakThinking;   // request to stop the running search
+    static bool isGambit;        // few pieces are left in the game's position
+    static int eventLoop;        // nodes until pending events are processed
+    static int absHorizon;       // ply counter at the horizon of the running iteration
+    static SquaresValue *pSQV;   // the square values in force, not owned
+    static hashTable *pHT;       // the transposition table, not owned
+    static const XY jmpInter[4]; // the four diagonal steps, in the order all loops take them
+    static const XY jmpEnd[4];   // the same, doubled
 
     // Points for a square that a side holds or can reach, while it has few of them.
     static constexpr int freedomValue = 20;

@@ -8,13 +8,13 @@
 
 #include <vector>
 
-// A view of the search's hash table, empty at first as the table is. Which positions are stored, and
-// which are found, is the table's business: its key and its probe limit decide it. The key is costly
-// to compute, but seldom needed. An index of the stored positions by a hash of their bit sets (open
-// addressing with linear probing) tells whether a position is stored with the same side to move, in
-// which case the table would find it, and whether the same pieces are stored with the other side to
-// move. Only then, since the table does not compare the side but its key depends on it, must the
-// table's own path be followed.
+// A view of the search's hash table, empty at first as the table is. Which positions are stored,
+// and which are found, is the table's business: its key and its probe limit decide it. The key is
+// costly to compute, but seldom needed. An index of the stored positions by a hash of their bit
+// sets (open addressing with linear probing) tells whether a position is stored with the same side
+// to move, in which case the table would find it, and whether the same pieces are stored with the
+// other side to move. Only then, since the table does not compare the side but its key depends on
+// it, must the table's own path be followed.
 template <int N>
 class BitTable {
 public:

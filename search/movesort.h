@@ -21,7 +21,8 @@ constexpr bool isGoodMove(int score, const Score &best) {
 }
 
 // What a node of value `best` with `moves` moves, `good` of them good, is worth more for the choice
-// it leaves. A choice of two is none, and nothing is added to decided games, nor to no value at all.
+// it leaves. A choice of two is none, and nothing is added to decided games, nor to no value at
+// all.
 constexpr int severalMovesBonus(const Score &best, int moves, int good) {
     constexpr int perMove = 7;
     constexpr int mostCounted = 3;

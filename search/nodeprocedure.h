@@ -94,8 +94,7 @@ private:
     }
 
     // The last move of the list first. Children get the bounds swapped and not negated.
-    int searchMoves(int childBudget, Score &result, Score alpha, const Score &beta,
-                    Line &line) {
+    int searchMoves(int childBudget, Score &result, Score alpha, const Score &beta, Line &line) {
         const int alpha0 = alpha.value;
         int best = -1;
         Line childLine;

@@ -80,8 +80,8 @@ bool AbstractEngine::canUseHT(::board *b, int betaValue, int alphaValue) {
 
 // The third column of a move's line is its reduction.
 void AbstractEngine::printPLM(int alpha0, int beta, unsigned int thisKey, unsigned int, int level) {
-    std::printf("\n thisKey=\t %u \tlevel=%d\t Depth=%d < %d, %d >\n", thisKey, level, depth, alpha0,
-                -beta);
+    std::printf("\n thisKey=\t %u \tlevel=%d\t Depth=%d < %d, %d >\n", thisKey, level, depth,
+                alpha0, -beta);
     for (int i = moveList.count() - 1; i >= 0; --i) {
         std::printf("m=%d/%d\t tScore=%d\t score=%d\t \n", i, moveList.count(),
                     moveList[i].reduction, moveList[i].score);

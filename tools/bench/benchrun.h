@@ -21,7 +21,7 @@ struct BenchTask {
 struct BenchResult {
     QString move; // the notation; empty when there is no legal move
     int score = 0;
-    QString line; // the principal variation, one move a line
+    QString line;  // the principal variation, one move a line
     int depth = 0; // plies of the last iteration
     thinkStatistic statistic;
     qint64 microseconds = 0;
@@ -38,8 +38,8 @@ QList<BenchTask> readTasks(const QString &text, QString &error);
 // king ending, some played give-away.
 QString builtInTasks();
 
-// Searches the task to its depth, or for its time, without the random term. `straightforward` searches
-// every node over engines and boards instead of bit sets; the result is the same.
+// Searches the task to its depth, or for its time, without the random term. `straightforward`
+// searches every node over engines and boards instead of bit sets; the result is the same.
 BenchResult runTask(const BenchTask &task, bool straightforward);
 
 // A running hash (FNV-1a) over all that a search reports but its time.

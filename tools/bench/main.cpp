@@ -32,19 +32,25 @@ void describe(QCommandLineParser &parser) {
                               "to its own depth.")
                           .arg(mostDepth),
                       "plies"});
-    parser.addOption({{"t", "time"}, "Search each position so many seconds, as the game's levels do, "
-                                     "and tell the depth reached.", "seconds"});
+    parser.addOption({{"t", "time"},
+                      "Search each position so many seconds, as the game's levels do, "
+                      "and tell the depth reached.",
+                      "seconds"});
     parser.addOption({{"p", "positions"},
                       "Read the positions from a file: on each line a name, the rules "
                       "(international, american, polish), normal or giveaway, the depth in plies, "
                       "and a position line.",
                       "file"});
-    parser.addOption({{"o", "only"}, "Only the position of this name or, where there is none, those "
-                                     "whose names contain it.", "name"});
-    parser.addOption({{"m", "machine"}, "One tab-separated line a position, with all counters and "
-                                        "the best line; totals and signature follow."});
-    parser.addOption({{"s", "straightforward"}, "Search over engines and boards only, without the "
-                                                "bit sets: slow, with the same results."});
+    parser.addOption({{"o", "only"},
+                      "Only the position of this name or, where there is none, those "
+                      "whose names contain it.",
+                      "name"});
+    parser.addOption({{"m", "machine"},
+                      "One tab-separated line a position, with all counters and "
+                      "the best line; totals and signature follow."});
+    parser.addOption({{"s", "straightforward"},
+                      "Search over engines and boards only, without the "
+                      "bit sets: slow, with the same results."});
 }
 
 int fail(const QString &message) {
@@ -62,7 +68,8 @@ QString readOptions(const QCommandLineParser &parser, Options &options) {
     }
     options.seconds = parser.value("time").toInt();
     if (parser.isSet("time") && options.seconds < 1)
-        return QString("the time must be a number of seconds, not \"%1\"").arg(parser.value("time"));
+        return QString("the time must be a number of seconds, not \"%1\"")
+            .arg(parser.value("time"));
     if (!parser.positionalArguments().isEmpty())
         return QString("unexpected argument \"%1\"").arg(parser.positionalArguments().first());
     options.file = parser.value("positions");
@@ -130,8 +137,8 @@ void run(const QList<BenchTask> &tasks, const Options &options) {
     }
     const double seconds = static_cast<double>(std::max<qint64>(microseconds, 1)) / 1e6;
     const double speed = static_cast<double>(nodes) / seconds;
-    out << "positions " << tasks.size() << ", nodes " << nodes
-        << ", time " << QString::number(seconds, 'f', 3) << " s, nodes per second "
+    out << "positions " << tasks.size() << ", nodes " << nodes << ", time "
+        << QString::number(seconds, 'f', 3) << " s, nodes per second "
         << QString::number(speed, 'f', 0) << "\nsignature " << signature.text() << '\n';
 }
 

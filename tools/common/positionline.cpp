@@ -22,7 +22,8 @@ int codeOf(const QString &letters) {
     constexpr struct {
         const char *letters;
         int code;
-    } known[] = {{"--", 0}, {"wm", whiteMan}, {"wK", whiteKing}, {"bm", blackMan}, {"bK", blackKing}};
+    } known[] = {
+        {"--", 0}, {"wm", whiteMan}, {"wK", whiteKing}, {"bm", blackMan}, {"bK", blackKing}};
     for (const auto &square : known) {
         if (letters == square.letters)
             return square.code;
@@ -71,9 +72,10 @@ QString readSquares(const QString &text, board &b) {
 std::optional<board> readPositionLine(const QString &line, QString &error) {
     const QStringList fields = line.simplified().split(' ', Qt::SkipEmptyParts);
     if (fields.size() != fieldCount) {
-        error = QString("a position has %1 fields (size, ply, key, score, horizon, squares), not %2")
-                    .arg(fieldCount)
-                    .arg(fields.size());
+        error =
+            QString("a position has %1 fields (size, ply, key, score, horizon, squares), not %2")
+                .arg(fieldCount)
+                .arg(fields.size());
         return {};
     }
     const int size = fields[fieldSize].toInt();

@@ -46,8 +46,7 @@ board positionOf(Kind kind) {
 // An engine on a position, with all that its evaluation and search need.
 class Rig {
 public:
-    explicit Rig(const board &b)
-        : position(b), engine(&position, 1, &statistic, size) {
+    explicit Rig(const board &b) : position(b), engine(&position, 1, &statistic, size) {
         statistic.scoreNoise = 1;
         AbstractEngine::setSQV(&squareValues);
         AbstractEngine::setHashTable(&table);

@@ -28,20 +28,28 @@ struct Options {
 
 void describe(QCommandLineParser &parser) {
     parser.setApplicationDescription(
-        "Counts the positions of a move tree by depth, from the start position of a board or from a "
+        "Counts the positions of a move tree by depth, from the start position of a board or from "
+        "a "
         "position line (size, ply, key, score, horizon, squares), given as the argument or, for "
         "\"-\", on standard input, where there may be several. Every route of a capture counts.");
     parser.addHelpOption();
-    parser.addOption({{"r", "rules"}, "international (the default), american or polish.", "rules",
+    parser.addOption({{"r", "rules"},
+                      "international (the default), american or polish.",
+                      "rules",
                       "international"});
-    parser.addOption({{"s", "size"}, "Start position of 6, 8, 10 (the default) or 12 squares a "
-                                     "side.", "size", "10"});
+    parser.addOption({{"s", "size"},
+                      "Start position of 6, 8, 10 (the default) or 12 squares a "
+                      "side.",
+                      "size",
+                      "10"});
     parser.addOption({{"d", "depth"},
-                      QString("Count up to so many plies, 1 to %1.").arg(mostDepth), "plies",
+                      QString("Count up to so many plies, 1 to %1.").arg(mostDepth),
+                      "plies",
                       QString::number(defaultDepth)});
     parser.addOption({"divide", "Show the count of each first move, at the full depth only."});
-    parser.addOption({"distinct", "Count captures of a piece that take the same pieces and end on the "
-                                  "same square once, whatever their routes."});
+    parser.addOption({"distinct",
+                      "Count captures of a piece that take the same pieces and end on the "
+                      "same square once, whatever their routes."});
     parser.addOption({"last", "Count at the full depth only."});
     parser.addPositionalArgument("position", "A position line, or - for standard input.",
                                  "[position]");
@@ -64,7 +72,8 @@ public:
         if (secondsSince(last_) < 1.0)
             return;
         last_ = Clock::now();
-        std::fprintf(stderr, "\r%llu positions so far ", static_cast<unsigned long long>(positions));
+        std::fprintf(stderr, "\r%llu positions so far ",
+                     static_cast<unsigned long long>(positions));
         shown_ = true;
     }
     void clear() {
