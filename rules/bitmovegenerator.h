@@ -36,10 +36,13 @@ public:
         : own_(p.template side<White>()), enemy_(p.template side<!White>()), kings_(own_ & p.kings),
           men_(own_ & ~p.kings), empty_(p.empty()) {}
 
-    // Some own piece can capture.
-    bool canCapture() { return manCapturers() != 0 || surveyKings(); }
+    // Some own piece can capture. To be asked first.
+    bool canCapture() {
+        const bool byKing = surveyKings();
+        return byKing || manCapturers() != 0;
+    }
 
-    // Number of non-capturing moves, when canCapture() has found no capture.
+    // Number of non-capturing moves; to be asked after canCapture().
     int countQuiet() const {
         return countBits(left() & empty_) + countBits(right() & empty_) + kingMoves_;
     }

@@ -136,7 +136,7 @@ private:
     bool runIteration(Score &score, LegalMove *&best, BestLine &line);
     bool atLevelLimit() const;
     template <class Saved>
-    LegalMove *finishDriver(Saved &saved);
+    LegalMove *finishDriver(Saved &saved, const LegalMove *last);
 };
 
 #endif

@@ -41,6 +41,7 @@ public:
                 index_ = i;
         }
     }
+    void forget() { index_ = -1; }
     bool isEmpty() const { return index_ < 0; }
     // Brings the list back; the chosen move in it.
     LegalMove *restore(QValueList<LegalMove> &list) {
@@ -100,9 +101,12 @@ bool AbstractEngine::atLevelLimit() const {
     return depth / ply >= levelLimit;
 }
 
-// The move of the last completed iteration; without one, the first of the list.
+// The move of the last completed iteration; without one, or when that named none (`last` is null and
+// nothing broke it off), the first of the list.
 template <class Saved>
-LegalMove *AbstractEngine::finishDriver(Saved &saved) {
+LegalMove *AbstractEngine::finishDriver(Saved &saved, const LegalMove *last) {
+    if (last == nullptr && !breakThinking)
+        saved.forget();
     if (saved.isEmpty())
         return &moveList.first();
     breakThinking = false;
@@ -128,7 +132,7 @@ LegalMove *AbstractEngine::getBestMoveFixTime(Score &score, BestLine &line) {
             break;
         }
     }
-    return finishDriver(saved);
+    return finishDriver(saved, best);
 }
 
 LegalMove *AbstractEngine::getBestMoveFixDepth(Score &score, BestLine &line) {
@@ -142,5 +146,5 @@ LegalMove *AbstractEngine::getBestMoveFixDepth(Score &score, BestLine &line) {
         if (score.aroundGameOver() || depth / ply >= statistic->getReqDepth() || atLevelLimit())
             break;
     }
-    return finishDriver(saved);
+    return finishDriver(saved, best);
 }

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int mostPlies = 1000000;
+
 constexpr int fieldCount = 6;
 enum Field { fieldSize, fieldPly, fieldKey, fieldScore, fieldHorizon, fieldSquares };
 
@@ -33,8 +35,8 @@ int codeOf(const QString &letters) {
 
 QString checkNumbers(const QStringList &fields) {
     bool good = false;
-    if (const int ply = fields[fieldPly].toInt(&good); !good || ply < 0)
-        return "the ply counter is not a number from 0 up";
+    if (const int ply = fields[fieldPly].toInt(&good); !good || ply < 0 || ply > mostPlies)
+        return QString("the ply counter is not a number from 0 to %1").arg(mostPlies);
     fields[fieldKey].toUInt(&good);
     if (!good)
         return "the key is not a number";
