@@ -35,8 +35,11 @@ int codeOf(const QString &letters) {
 
 QString checkNumbers(const QStringList &fields) {
     bool good = false;
-    if (const int ply = fields[fieldPly].toInt(&good); !good || ply < 0 || ply > mostPlies)
-        return QString("the ply counter is not a number from 0 to %1").arg(mostPlies);
+    const int ply = fields[fieldPly].toInt(&good);
+    if (!good || ply < 0)
+        return "the ply counter is not a number from 0 up";
+    if (ply > mostPlies)
+        return QString("the ply counter is above %1").arg(mostPlies);
     fields[fieldKey].toUInt(&good);
     if (!good)
         return "the key is not a number";
