@@ -5,21 +5,16 @@
 
 #ifdef HAVE_XDISPLAY
 #include "tools/demo/xdisplay.h"
-#endif
 
-#ifdef HAVE_XDISPLAY
 namespace {
 
-class ReleaseSpy : public QObject {
-public:
+struct ReleaseSpy : QObject {
     ReleaseSpy() { qApp->installEventFilter(this); }
-    bool seen = false;
-
-protected:
     bool eventFilter(QObject *, QEvent *event) override {
         seen |= event->type() == QEvent::MouseButtonRelease;
         return false;
     }
+    bool seen = false;
 };
 
 } // namespace
@@ -153,13 +148,12 @@ std::string GameTest::shown() const {
             const int half = m.SquareWidthB() / 2;
             const QRgb centre = image.pixel(corner + QPoint(half, half));
             const QRgb body = image.pixel(corner + QPoint(half, half / 2));
+            const bool white = body == qRgb(255, 255, 255);
             const bool king = centre == qRgb(255, 0, 0);
             if (centre == qRgb(0, 255, 0))
                 text += 'x';
-            else if (body == qRgb(255, 255, 255))
-                text += king ? 'W' : 'w';
             else
-                text += body != qRgb(0, 0, 0) ? '.' : king ? 'B' : 'b';
+                text += !white && body != qRgb(0, 0, 0) ? '.' : (white ? "wW" : "bB")[king];
         }
     }
     return text;
@@ -186,8 +180,7 @@ void GameTest::expectAgreement() const {
             seen[i] = expected[i];
     }
     EXPECT_EQ(seen, expected);
-    int white = 0;
-    int black = 0;
+    int white = 0, black = 0;
     b.countPieces(white, black);
     EXPECT_EQ(game.labelScore->text().toStdString(),
               std::to_string(white) + '/' + std::to_string(black));
