@@ -42,7 +42,7 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
     GuiHost host;
     formsettings settings(nullptr, nullptr, true);
     fabout about(nullptr, nullptr, true);
-    auto *window = new QWidget;
+    auto *window = new QWidget; // a case deletes it
     const auto ask = [&] {
         return host.messageBox(BoxKind::Warning, "a", "b", BoxButtons::OkCancel, window);
     };
@@ -76,6 +76,7 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
         onNextDialog(act);
         EXPECT_EQ(show(), accepted) << way;
     }
+
     // However often they were shown, the forms have grown by one row.
     const int row = settings.findChild<ControlRow *>()->rowHeight();
     EXPECT_EQ(settings.size(), QSize(209, 170 + row));
