@@ -1,7 +1,5 @@
 #include "rules/intengine.h"
 
-#include "rules/capturelimit.h"
-
 #include <algorithm>
 
 namespace {
@@ -114,23 +112,8 @@ bool IntEngine::shortJump(XY pos, int d, const ::board &b, XY &over, XY &land) {
 }
 
 void IntEngine::genCapManMove(XY pos, ::board *b, int level, LegalMove *m) {
-    const CaptureLimitScope report;
-    if (level > maxCaptureLevel) {
-        CaptureLimitScope::exceeded("IntEngine::genCapManMove");
-        return;
-    }
-    bool found = false;
-    for (int d = 0; d < 4; ++d) {
-        XY over;
-        XY land;
-        if (!shortJump(pos, d, *b, over, land))
-            continue;
-        found = true;
-        ::board scratch = afterJump(*b, m, level, pos, over, land);
-        genCapManMove(land, &scratch, level + 1, m);
-    }
-    if (!found && level > 1)
-        moveList.append(*m);
+    shortJumps(pos, *b, level, m, {0, 1, 2, 3}, "IntEngine::genCapManMove",
+               [&](XY land, ::board *after) { genCapManMove(land, after, level + 1, m); });
 }
 
 bool IntEngine::genCapKingMove(XY pos, ::board *b, int level, LegalMove *m) {

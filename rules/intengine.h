@@ -2,7 +2,10 @@
 #ifndef RULES_INTENGINE_H
 #define RULES_INTENGINE_H
 
+#include "rules/capturelimit.h"
 #include "search/abstractengine.h"
+
+#include <initializer_list>
 
 // Men step one square forward and capture forwards and backwards; kings fly; capturing is
 // compulsory, a sequence is continued while it can be, and only sequences that take the most
@@ -42,6 +45,13 @@ public:
 protected:
     // Step one of every capture listing: all sequences of all own pieces, by column, then row.
     void listCaptures();
+    // The jumps of a piece that jumps short, in the directions given: each is written into `m`, and
+    // `next(land, after)` continues the sequence from the landing square in the position after it.
+    // A sequence that cannot be continued is complete. `operation` reports the limit. True when
+    // there was a jump.
+    template <class Next>
+    bool shortJumps(XY pos, const ::board &b, int level, LegalMove *m,
+                    std::initializer_list<int> directions, const char *operation, Next next);
     // The captured piece's square and the landing square of a short jump from `pos` in direction d,
     // if it is possible.
     static bool shortJump(XY pos, int d, const ::board &b, XY &over, XY &land);
@@ -49,5 +59,29 @@ protected:
     // stays, marked, and keeps blocking.
     static ::board afterJump(const ::board &b, LegalMove *m, int level, XY pos, XY over, XY land);
 };
+
+template <class Next>
+bool IntEngine::shortJumps(XY pos, const ::board &b, int level, LegalMove *m,
+                           std::initializer_list<int> directions, const char *operation,
+                           Next next) {
+    const CaptureLimitScope report;
+    if (level > maxCaptureLevel) {
+        CaptureLimitScope::exceeded(operation);
+        return false;
+    }
+    bool found = false;
+    for (const int d : directions) {
+        XY over;
+        XY land;
+        if (!shortJump(pos, d, b, over, land))
+            continue;
+        found = true;
+        ::board after = afterJump(b, m, level, pos, over, land);
+        next(land, &after);
+    }
+    if (!found && level > 1)
+        moveList.append(*m);
+    return found;
+}
 
 #endif

@@ -1,6 +1,7 @@
 // bench: searches fixed positions to a fixed depth and prints what the search found and how fast.
 
 #include "tools/bench/benchrun.h"
+#include "tools/common/commandline.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -26,7 +27,6 @@ void describe(QCommandLineParser &parser) {
         "Searches a list of positions to fixed depths, without the random term, and prints move, "
         "score, nodes and time of each, the totals, and one signature over everything the searches "
         "reported but time. The signature changes when, and only when, the search does.");
-    parser.addHelpOption();
     parser.addOption({{"d", "depth"},
                       QString("Search all positions so many plies deep (1 to %1), instead of each "
                               "to its own depth.")
@@ -51,11 +51,6 @@ void describe(QCommandLineParser &parser) {
     parser.addOption({{"s", "straightforward"},
                       "Search over engines and boards only, without the "
                       "bit sets: slow, with the same results."});
-}
-
-int fail(const QString &message) {
-    QTextStream(stderr) << "bench: " << message << '\n';
-    return 2;
 }
 
 // What is wrong with the command line, empty when nothing is.
@@ -148,12 +143,8 @@ int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     describe(parser);
-    if (!parser.parse(QCoreApplication::arguments()))
-        return fail(parser.errorText());
-    if (parser.isSet("help")) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return 0;
-    }
+    if (const std::optional<int> status = parseCommandLine(parser))
+        return *status;
     Options options;
     if (const QString wrong = readOptions(parser, options); !wrong.isEmpty())
         return fail(wrong);

@@ -1,5 +1,6 @@
 // perft: counts the move tree of a position by depth, to check a move generator and to time it.
 
+#include "tools/common/commandline.h"
 #include "tools/common/positionline.h"
 #include "tools/perft/perft.h"
 
@@ -32,7 +33,6 @@ void describe(QCommandLineParser &parser) {
         "a "
         "position line (size, ply, key, score, horizon, squares), given as the argument or, for "
         "\"-\", on standard input, where there may be several. Every route of a capture counts.");
-    parser.addHelpOption();
     parser.addOption({{"r", "rules"},
                       "international (the default), american or polish.",
                       "rules",
@@ -53,11 +53,6 @@ void describe(QCommandLineParser &parser) {
     parser.addOption({"last", "Count at the full depth only."});
     parser.addPositionalArgument("position", "A position line, or - for standard input.",
                                  "[position]");
-}
-
-int fail(const QString &message) {
-    QTextStream(stderr) << "perft: " << message << '\n';
-    return 2;
 }
 
 double secondsSince(Clock::time_point start) {
@@ -174,12 +169,8 @@ int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     describe(parser);
-    if (!parser.parse(QCoreApplication::arguments()))
-        return fail(parser.errorText());
-    if (parser.isSet("help")) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return 0;
-    }
+    if (const std::optional<int> status = parseCommandLine(parser))
+        return *status;
     Options options;
     if (const QString wrong = readOptions(parser, options); !wrong.isEmpty())
         return fail(wrong);
