@@ -1,105 +1,88 @@
-#include "search/deepsearch.h"
+// Searches as a whole: what they find, and when and how they end.
+
 #include "tests/support/enginerig.h"
 #include "tests/support/plaintwin.h"
-#include "tools/common/positionline.h"
+#include "tools/bench/benchrun.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 
 namespace {
 
-enum class Mode { Depth, Time, Unlimited };
-constexpr Mode allModes[] = {Mode::Depth, Mode::Time, Mode::Unlimited};
+// Seconds to think, or a request in plies.
+constexpr int byDepth = 0, timed = 5, unlimited = thinkStatistic::unlimitedSeconds;
+constexpr int allModes[] = {byDepth, timed, unlimited};
 
-void request(EngineRig &rig, Mode mode, int plies = 6) {
-    if (mode == Mode::Depth)
-        rig.statistic.setReqDepth(plies);
-    else
-        rig.statistic.setReqTime(mode == Mode::Time ? 5 : 99999999);
+void request(EngineRig &rig, int mode, int plies = 6) {
+    mode == byDepth ? rig.statistic.setReqDepth(plies) : rig.statistic.setReqTime(mode);
 }
 
 // Searches that end at once: a win found, a single move, which loses the last man, and no move.
 TEST(Drivers, EndingsWithoutDeepening) {
+    const char *const alone = "w ...... ...... ...... ..w... ...... ......";
     const struct {
         const char *picture, *move;
         bool giveAway;
         int score, depth, timedDepth, nodes;
-        const char *line;
     } cases[] = {
-        {"w ...... ...... ...... ..w... ...... ......", "(2,2)-(3,3)", false, 999999, 1, 3, 4,
-         "(2,2)->(3,3) 999999 \n"},
-        {"w ...... ...... ...... ..w... ...... ......", "(2,2)-(3,3)", true, -999999, 1, 3, 4,
-         "(2,2)->(3,3) -999999 \n"},
-        {"w ...... ..b... ...... w..... ...... ......", "(0,2)-(1,3)", false, -999998, 1, 2, 4,
-         "(0,2)->(1,3) -999998 \n(2,4)->(0,2) 999998 \n"},
-        {"w ...... ..b... .b.... w..... ...... ......", "none", false, -1000000, 0, 0, 1, ""}};
+        {alone, "(2,2)-(3,3)", false, 999999, 1, 3, 4},
+        {alone, "(2,2)-(3,3)", true, -999999, 1, 3, 4},
+        {"w ...... ..b... ...... w..... ...... ......", "(0,2)-(1,3)", false, -999998, 1, 2, 4},
+        {"w ...... ..b... .b.... w..... ...... ......", "none", false, -1000000, 0, 0, 1}};
     for (const auto &c : cases) {
-        for (const Mode mode : allModes) {
+        for (const int mode : allModes) {
             EngineRig rig(RuleSet::American, c.picture);
             rig.host.msPerReading = 10;
             AbstractEngine::breakThinking = true; // left over from another search
             rig.statistic.giveAway = c.giveAway;
             request(rig, mode);
             EXPECT_EQ(rig.search(), c.move);
-            EXPECT_EQ(rig.score.value, c.score);
-            EXPECT_EQ(rig.score.depth, mode == Mode::Depth ? c.depth : c.timedDepth);
-            EXPECT_EQ(rig.statistic.nodes, c.nodes);
-            EXPECT_EQ(rig.lineText(), c.line);
-            EXPECT_EQ(rig.position.hashScore, rig.score.value);
-            EXPECT_EQ(rig.position.hashHorizon, rig.score.depth);
-            EXPECT_EQ(rig.host.beeps, 1);
+            const int depth = mode == byDepth ? c.depth : c.timedDepth;
+            EXPECT_EQ((std::vector{rig.score.value, rig.score.depth, rig.position.hashScore,
+                                   rig.position.hashHorizon, rig.statistic.nodes, rig.host.beeps}),
+                      (std::vector{c.score, depth, c.score, depth, c.nodes, 1}));
         }
     }
 }
 
-TEST(Drivers, AnIterationBeyondTheBudgetIsTheLast) {
-    EngineRig rig(RuleSet::International, board(8));
-    rig.host.msPerReading = 6000;
-    rig.statistic.setReqTime(5);
-    EXPECT_NE(rig.search(), "none");
-    EXPECT_EQ(rig.engine->depth, 30);
-    EXPECT_EQ(rig.statistic.timeCredit, 5000 - 6000);
-}
-
 TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
-    for (const Mode mode : allModes) {
+    for (const int mode : allModes) {
         EngineRig rig(RuleSet::International, board(10));
         rig.host.onEvents = [] { AbstractEngine::breakThinking = true; };
         request(rig, mode);
         EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
-        EXPECT_EQ(rig.score.value, -1000000);
-        EXPECT_EQ(rig.score.depth, -1);
+        EXPECT_TRUE(rig.score.value == -1000000 && rig.score.depth == -1);
         EXPECT_TRUE(AbstractEngine::breakThinking);
         EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
     }
 }
 
 TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
-    for (const RuleSet rules : allRuleSets) {
-        for (const Mode mode : allModes) {
-            EngineRig whole(rules, board(10));
-            request(whole, mode == Mode::Depth ? mode : Mode::Time, 3);
-            whole.host.msPerReading = 6000; // a timed search ends after its first iteration
-            const std::string move = whole.search();
-            EngineRig broken(rules, board(10));
-            request(broken, mode, 8);
-            broken.host.onEvents = [&] {
-                AbstractEngine::breakThinking = broken.statistic.nodes > whole.statistic.nodes;
-            };
-            EXPECT_EQ(broken.search(), move);
-            EXPECT_EQ(broken.score.value, whole.score.value);
-            EXPECT_GT(broken.statistic.nodes, whole.statistic.nodes);
-            EXPECT_FALSE(AbstractEngine::breakThinking);
-            EXPECT_NE(moveText(broken.engine->moveList).find(move), std::string::npos);
-        }
+    for (const int mode : allModes) {
+        EngineRig whole(RuleSet::International, board(10));
+        request(whole, mode == byDepth ? mode : timed, 3);
+        whole.host.msPerReading = 6000; // beyond the budget: the first iteration is the last
+        const std::string move = whole.search();
+        EXPECT_EQ(whole.engine->depth, 30);
+        EXPECT_TRUE(mode == byDepth || whole.statistic.timeCredit == 5000 - 6000);
+        EngineRig broken(RuleSet::International, board(10));
+        request(broken, mode, 8);
+        broken.host.onEvents = [&] {
+            AbstractEngine::breakThinking = broken.statistic.nodes > whole.statistic.nodes;
+        };
+        EXPECT_EQ(broken.search(), move);
+        EXPECT_EQ(broken.score.value, whole.score.value);
+        EXPECT_GT(broken.statistic.nodes, whole.statistic.nodes);
+        EXPECT_FALSE(AbstractEngine::breakThinking);
     }
 }
 
 TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
     EngineRig rig(RuleSet::International, board(10));
-    rig.statistic.setReqDepth(6);
+    request(rig, byDepth);
     rig.host.onEvents = [&] {
         EXPECT_EQ(rig.statistic.nodes, 2 + 201 * (rig.host.eventRounds - 1)) << "up to date";
     };
@@ -114,70 +97,80 @@ TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
     EngineRig rig(RuleSet::American,
                   "w .......... ........B. .......... ......B... .......... ..B.B..... ...W...... "
                   ".......... .......... ..........");
-    request(rig, Mode::Unlimited);
+    request(rig, unlimited);
     EXPECT_EQ(rig.search(), "(3,3)x(5,5)x(7,7)x(9,9)");
     EXPECT_EQ(rig.engine->depth, 50);
-    EXPECT_EQ(rig.host.beeps, 2);
-    EXPECT_EQ(rig.host.pauses, std::vector<int>{100000});
+    EXPECT_TRUE(rig.host.beeps == 2 && rig.host.pauses == std::vector{100000});
 }
 
 // Each side has exactly one move, for ever, under all rules: the levels 0 to 100 are one node each.
 TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
-    QString error;
-    const std::optional<board> b = readPositionLine(
-        "10 0 0 0 -1 wm--wm--wK--wm--bm----wm--bm------bm--bmwm--bm--bm--wm--bm----wm--bm--bm--wm--"
-        "bmwm--wm--wm--bm--bm----wm--wm--bm--bm--bmwm--bm--wm--wm--bm----wm--bm--wm--wm--bmwm--wm--"
-        "--"
-        "--wm--bm----wm--bm--bK--bm--bm",
-        error);
     for (const RuleSet rules : allRuleSets) {
-        for (const Mode mode : allModes) {
-            EngineRig rig(rules, b.value());
+        for (const int mode : allModes) {
+            EngineRig rig(rules, "w .b.b.b.b.b b.b.b.b.b. .b.w.b.w.b w.w.b.w.w. ...b.b.w.B "
+                                 "W.b.w.w... .b.b.w.b.b w.b.w.b.w. .w.w.w.w.w w.w.w.w.w.");
             request(rig, mode, 8);
             EXPECT_NE(rig.search(), "none");
-            EXPECT_EQ(rig.statistic.nodes, 1 + 101 * (mode == Mode::Depth ? 8 : 1));
+            EXPECT_EQ(rig.statistic.nodes, 1 + 101 * (mode == byDepth ? 8 : 1));
             EXPECT_EQ(rig.statistic.maxLevel, 100);
-            EXPECT_EQ(QString::fromStdString(rig.lineText()).count('\n'), 30);
-            EXPECT_FALSE(rig.score.isNone());
+            const std::string line = rig.lineText();
+            EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 30);
         }
     }
 }
 
-// All that a search to `plies` tells, on bit sets below level 3 or straightforward.
-std::string searchReport(RuleSet rules, const board &b, int plies, bool giveAway, bool bits) {
-    EngineRig rig(rules, b);
-    DeepSearch::enable(bits);
-    rig.host.fixedSeed = bits; // without noise it is no matter
-    rig.statistic.giveAway = giveAway;
-    rig.statistic.setReqDepth(plies);
-    std::string text = rig.search() + '\n' + rig.lineText();
-    const thinkStatistic &s = rig.statistic;
-    for (const int number :
-         {rig.score.value, rig.score.depth, s.nodes, s.movesGenerated, s.scoresCalculated,
-          s.cutoffs, s.senselessSacrifices, s.hashHits, s.maxLevel})
-        text.append(std::to_string(number)).append(" ");
-    DeepSearch::enable(true);
-    return text;
+// Trees small enough for paper. American kings: 1910 off the centre, 1920 in it, 1815 on a side.
+TEST(NodeSearch, TreesByHand) {
+    const struct {
+        const char *name;
+        int x, y, plies, score, nodes, valued, generated;
+        const char *line;
+    } cases[] = {
+        {"the centre, and four moves within 30 points", 4, 2, 1, 31, 6, 4, 24,
+         "(4,2)->(3,3) 10 \n"},
+        {"two equal moves: the one examined first", 2, 0, 1, 0, 4, 2, 12, "(2,0)->(1,1) 0 \n"},
+        {"black has two moves as good: 7 points", 0, 0, 2, -7, 9, 5, 27,
+         "(0,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"},
+        {"the second move is asked for its material first", 2, 0, 2, -7, 15, 11,
+         2 + 10 + 2 + 8 + 32, "(2,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"}};
+    for (const auto &c : cases) {
+        EngineRig rig(RuleSet::American, board(10));
+        rig.position.clear();
+        rig.position.squares[c.x][c.y] = whiteKing;
+        rig.position.squares[1][7] = blackKing;
+        request(rig, byDepth, c.plies);
+        EXPECT_NE(rig.search(), "none");
+        const thinkStatistic &s = rig.statistic;
+        EXPECT_EQ((std::vector{rig.score.value, rig.score.depth, s.nodes, s.scoresCalculated,
+                               s.movesGenerated, s.maxLevel, s.cutoffs}),
+                  (std::vector{c.score, c.plies, c.nodes, c.valued, c.generated, c.plies, 0}))
+            << c.name;
+        EXPECT_EQ(rig.lineText(), c.line) << c.name;
+    }
 }
 
+// TWIN_SEARCHES in the environment says how many positions.
 TEST(Drivers, DeepLevelsAreTheSameWithAndWithoutEngines) {
     const char *wanted = std::getenv("TWIN_SEARCHES");
     std::mt19937 random(77);
     const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
     for (int i = wanted == nullptr ? 60 : std::atoi(wanted); i > 0 && !HasFailure(); --i) {
-        const RuleSet rules = allRuleSets[below(3)];
-        board b(allBoardSizes[below(4)]);
+        BenchTask task;
+        task.rules = allRuleSets[below(3)];
+        task.position = board(allBoardSizes[below(4)]);
         for (int plies = below(120); plies > 0; --plies) {
-            const std::vector<plain::Move> moves = plain::legalMoves(rules, b);
+            const std::vector<plain::Move> moves = plain::legalMoves(task.rules, task.position);
             if (!moves.empty())
-                plain::play(b, moves[random() % moves.size()]);
+                plain::play(task.position, moves[random() % moves.size()]);
         }
-        const int plies = 1 + below(6);
-        const bool giveAway = below(4) == 0;
-        EXPECT_EQ(searchReport(rules, b, plies, giveAway, true),
-                  searchReport(rules, b, plies, giveAway, false))
-            << plies << " plies\n"
-            << picture(b);
+        task.depth = 1 + below(6);
+        task.giveAway = below(4) == 0;
+        const auto found = [&task](bool straightforward) {
+            Signature signature;
+            signature.add(runTask(task, straightforward));
+            return signature.text();
+        };
+        EXPECT_EQ(found(true), found(false)) << task.depth << " plies\n" << picture(task.position);
     }
 }
 

@@ -8,71 +8,61 @@ namespace {
 using Scores = std::vector<int>;
 
 // Moves told apart by their start column: 0, 1, 2 ...
-void fill(QValueList<LegalMove> &list, const Scores &scores) {
-    list.clear();
-    for (std::size_t i = 0; i < scores.size(); ++i)
-        list.append(LegalMove({static_cast<int>(i), 0}, {0, 1})).score = scores[i];
+QValueList<LegalMove> moves(const Scores &scores) {
+    QValueList<LegalMove> list;
+    for (const int score : scores)
+        list.append(LegalMove({list.count(), 0}, {0, 1})).score = score;
+    return list;
 }
 
 // Moves as letters by their former places, "a" the first.
 TEST(MoveOrdering, SortOrder) {
-    const struct {
-        Scores scores;
-        const char *order;
-    } cases[] = {{{0, 0, 0, 0, 0}, "aedcb"},
-                 {{0, 0, 0, 0}, "adcb"},
-                 {{0, 0}, "ab"},
-                 {{2, 1, 2, 1}, "bdca"},
-                 {{}, ""},
-                 {{3, -1, 4, -1000777, 9}, "dbace"},
-                 {{5, 4, 3, 2, 1, 0}, "fedcba"}};
-    for (const auto &c : cases) {
-        QValueList<LegalMove> list;
-        fill(list, c.scores);
+    const std::pair<Scores, const char *> cases[] = {{{0, 0, 0, 0, 0}, "aedcb"},
+                                                     {{0, 0, 0, 0}, "adcb"},
+                                                     {{0, 0}, "ab"},
+                                                     {{2, 1, 2, 1}, "bdca"},
+                                                     {{}, ""},
+                                                     {{3, -1, 4, -1000777, 9}, "dbace"},
+                                                     {{5, 4, 3, 2, 1, 0}, "fedcba"}};
+    for (const auto &[scores, sorted] : cases) {
+        QValueList<LegalMove> list = moves(scores);
         sortByScore(list);
         std::string order;
         for (const LegalMove &m : list)
             order += static_cast<char>('a' + m.from().x);
-        EXPECT_EQ(order, c.order);
+        EXPECT_EQ(order, sorted);
     }
 }
 
 TEST(MoveOrdering, Reductions) {
-    const struct {
-        Scores scores; // sorted
-        Scores reductions;
-    } cases[] = {{{-1000777, -300, 0, 100, 160}, {5, 7, 2, 1, 0}},
-                 {{-500, -400, 999950}, {0, 0, 0}},
-                 {{-1000000, -999999, -999950}, {0, 0, 0}},
-                 {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
-                 {{-1000000, -999, -600, 0}, {5, 7, 4, 0}}};
-    for (const auto &c : cases) {
-        QValueList<LegalMove> list;
-        fill(list, c.scores);
+    const Scores cases[][2] = {{{-1000777, -300, 0, 100, 160}, {5, 7, 2, 1, 0}},
+                               {{-500, -400, 999950}, {0, 0, 0}},
+                               {{-1000000, -999999, -999950}, {0, 0, 0}},
+                               {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
+                               {{-1000000, -999, -600, 0}, {5, 7, 4, 0}}};
+    for (const auto &[sorted, reductions] : cases) {
+        QValueList<LegalMove> list = moves(sorted);
         AbstractEngine::depthUpdate(&list);
         Scores found;
         for (const LegalMove &m : list)
             found.push_back(m.reduction);
-        EXPECT_EQ(found, c.reductions);
+        EXPECT_EQ(found, reductions);
     }
 }
 
 TEST(MoveOrdering, BonusForSeveralGoodMoves) {
-    const struct {
-        Scores scores;
-        int value, result;
-    } cases[] = {{{50, 80, 95, 100}, 100, 114},
-                 {{95, 100}, 100, 100},
-                 {{70, 69, 100}, 100, 107},
-                 {{1, 2, 3, 4, 5, 6}, 6, 27},
-                 {{999950, 999950, 999950}, 999950, 999950},
-                 {{-1000777, -1000777, -1000777}, -1000777, -1000777}};
-    for (const auto &c : cases) {
+    const std::pair<Scores, int> cases[] = {{{50, 80, 95, 100}, 114},
+                                            {{95, 100}, 100},
+                                            {{70, 69, 100}, 107},
+                                            {{1, 2, 3, 4, 5, 6}, 27},
+                                            {{999950, 999950, 999950}, 999950},
+                                            {{-1000777, -1000777, -1000777}, -1000777}};
+    for (const auto &[scores, result] : cases) {
         EngineRig rig(RuleSet::International, board(10));
-        fill(rig.engine->moveList, c.scores);
-        Score s(c.value, 1);
+        rig.engine->moveList = moves(scores);
+        Score s(scores.back(), 1);
         rig.engine->updatePoints(s);
-        EXPECT_EQ(s.value, c.result);
+        EXPECT_EQ(s.value, result);
     }
 }
 
@@ -87,7 +77,7 @@ TEST(MoveOrdering, Favourites) {
                  {{3001, 1000}, 49, true, false},    {{1900, 1900, 0}, 50, false, false}};
     for (const auto &c : cases) {
         EngineRig rig(RuleSet::International, board(10));
-        fill(rig.engine->moveList, c.scores);
+        rig.engine->moveList = moves(c.scores);
         rig.engine->depth = c.depth;
         EXPECT_EQ(rig.engine->FavouriteMove(&rig.engine->moveList), c.normal) << c.scores[0];
         AbstractEngine::isGambit = true;
