@@ -1,4 +1,3 @@
-#include "eval/heuristic.h"
 #include "tests/support/enginerig.h"
 
 #include <gtest/gtest.h>
@@ -11,14 +10,6 @@ struct Piece {
     int x, y;
     unsigned char code;
 };
-
-board placed(int size, const std::vector<Piece> &pieces) {
-    board b(size);
-    b.clear();
-    for (const Piece &p : pieces)
-        b.squares[p.x][p.y] = p.code;
-    return b;
-}
 
 constexpr unsigned char w = whiteMan, W = whiteKing, b = blackMan, B = blackKing;
 constexpr RuleSet inter = RuleSet::International, american = RuleSet::American;
@@ -33,26 +24,24 @@ const struct {
     int value;
 } values[] = {
     {"a man in the middle", inter, 10, false, {{4, 4, w}}, 1000 + 80},
-    {"a man on the edge column", inter, 10, false, {{0, 4, w}}, 1000 + 0 + 15},
-    {"a man in the corner", inter, 10, false, {{0, 0, w}}, 1000 + 10 + 20},
     {"black reads the table from its side", inter, 10, false, {{9, 1, b}}, -1000 - 100 - 15},
     {"an enemy protects nothing", inter, 6, false, {{1, 1, w}, {2, 2, b}}, 1030 - 1060},
-    {"two men on a diagonal", RuleSet::Polish, 10, false, {{3, 3, w}, {4, 4, w}}, 1035 + 1085},
     {"protection both ways", american, 10, false, {{4, 4, w}, {3, 3, w}, {3, 5, w}}, 1095 + 2080},
     {"first and further kings", inter, 10, false, {{2, 2, W}, {6, 2, W}}, 2800 + 2100},
-    {"few pieces", RuleSet::Polish, 10, true, {{2, 2, W}, {6, 2, W}, {4, 6, W}}, 3200 + 4200},
     {"each side's first", inter, 10, false, {{2, 2, W}, {6, 2, B}, {4, 6, B}}, -2100},
     {"American kings, gambit or not", american, 10, true, {{2, 2, W}, {7, 3, W}}, 1910 + 1810},
     {"an American king in the centre", american, 10, false, {{3, 3, W}}, 1920},
-    {"just outside the centre", american, 10, false, {{7, 5, W}}, 1910},
-    {"centre of 8 x 8", american, 8, false, {{2, 2, B}, {6, 4, B}}, -1920 - 1810},
     {"centre of 12 x 12", american, 12, false, {{4, 4, B}, {3, 7, B}}, -1910 - 1820},
     {"an American king on the edge", american, 10, false, {{0, 4, W}}, 1900 - 100 + 15},
 };
 
 TEST(MaterialScore, Table) {
     for (const auto &c : values) {
-        EngineRig rig(c.rules, placed(c.size, c.pieces));
+        board position(c.size);
+        position.clear();
+        for (const Piece &p : c.pieces)
+            position.squares[p.x][p.y] = p.code;
+        EngineRig rig(c.rules, position);
         AbstractEngine::isGambit = c.gambit;
         EXPECT_EQ(rig.engine->materialScore(nullptr), c.value) << c.name;
         rig.position.whiteToMove = false;
@@ -61,23 +50,8 @@ TEST(MaterialScore, Table) {
     }
 }
 
-// A white man on (2,2); the square values are those of the sizes.
-TEST(MaterialScore, MenOnPassagesGainByTheRow) {
-    constexpr int steps[][3] = {{6, 80, 110}, {8, 30, 83}, {10, 30, 66}, {12, 0, 55}};
-    for (const auto &[size, square, step] : steps) {
-        for (const RuleSet rules : allRuleSets) {
-            EngineRig rig(rules, placed(size, {{2, 2, w}}));
-            heuristic h;
-            h.analyse(&rig.position);
-            h.findPassage(codeWhite);
-            EXPECT_EQ(rig.engine->materialScore(&h),
-                      1000 + square + (rules == american ? 0 : 2 * step));
-        }
-    }
-}
-
 TEST(MaterialScore, Noise) {
-    EngineRig rig(inter, placed(10, {{4, 4, w}}));
+    EngineRig rig(inter, "w ...... ...... ...... ..w... ...... ......");
     for (const int noise : {1, 0, -3, 100}) {
         rig.statistic.scoreNoise = noise;
         std::srand(7);
