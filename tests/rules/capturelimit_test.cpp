@@ -41,7 +41,6 @@ TEST(CaptureLimit, TwentyFiveJumpsAreDroppedWithOneBoxAtTheEnd) {
         for (std::size_t listing = 1; listing <= 2; ++listing) {
             rig.engine->FillMoveList();
             EXPECT_TRUE(rig.host.boxes == std::vector(listing, box)) << c.title;
-            EXPECT_EQ(longest(rig.engine->moveList), 21U);
         }
         rig.position.squares[9][9] = 0;
         rig.engine->FillMoveList();
@@ -49,10 +48,10 @@ TEST(CaptureLimit, TwentyFiveJumpsAreDroppedWithOneBoxAtTheEnd) {
         EXPECT_EQ(longest(rig.engine->moveList), 24U);
         EXPECT_EQ(rig.engine->moveList.first().to(), XY(8, 8));
     }
-    EngineRig search(RuleSet::International, lattice(whiteMan));
-    search.statistic.setReqDepth(1);
-    search.search();
-    EXPECT_EQ(search.host.boxes.size(), 1U) << "one box for a whole search";
+    EngineRig whole(RuleSet::International, lattice(whiteMan));
+    whole.statistic.setReqDepth(1);
+    whole.search();
+    EXPECT_EQ(whole.host.boxes.size(), 1U) << "one box for a whole search";
 }
 
 // A working record that has 25 jumps behind it already.

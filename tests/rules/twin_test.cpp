@@ -15,6 +15,7 @@
 #include <cstring>
 #include <memory>
 #include <random>
+#include <tuple>
 
 namespace {
 
@@ -77,16 +78,15 @@ void compareEngine(RuleSet rules, const board &b, const Findings &want) {
         board wanted = want.marked;
         engine->makeMove(&after, &engine->moveList[i]);
         plain::play(wanted, want.moves[static_cast<std::size_t>(i)]);
-        EXPECT_TRUE(sameSquares(after, wanted) && after.whiteToMove == wanted.whiteToMove &&
-                    after.plyCount == wanted.plyCount)
-            << "after " << moveText(engine->moveList[i]);
+        EXPECT_EQ(std::tie(after.whiteToMove, after.plyCount),
+                  std::tie(wanted.whiteToMove, wanted.plyCount));
+        EXPECT_TRUE(sameSquares(after, wanted)) << "after " << moveText(engine->moveList[i]);
     }
     board quietMarked = b;
     QValueList<LegalMove> quiet;
     EXPECT_EQ(engine->FillNotCapturingMoveList(&quiet, &quietMarked), !want.quiet.empty());
     EXPECT_TRUE(plainMoves(quiet) == want.quiet) << moveText(quiet);
     EXPECT_TRUE(sameSquares(quietMarked, want.quietMarked)) << "can-move marks, quiet moves";
-    EXPECT_EQ(b.HKey(), plain::key(b));
     heuristic h;
     EXPECT_TRUE(engineAnalysis(b, h) == want.analysis) << "analysis";
     EXPECT_EQ(engine->materialScore(nullptr), want.value);
@@ -116,14 +116,14 @@ void compareBitMoves(MoveStack<BitMove<N>> &stack, const std::vector<plain::Move
 
 template <int N, const RuleTraits &Rules, bool White>
 void compareBitGenerator(const board &b, const Findings &want) {
-    const BitPosition<N> p(b);
-    BitMoveGenerator<N, Rules, White> generator(p);
+    BitMoveGenerator<N, Rules, White> generator{BitPosition<N>(b)};
     MoveStack<BitMove<N>> stack;
     const bool capture = !want.moves.empty() && !want.moves[0].taken.empty();
     EXPECT_EQ(generator.canCapture(), capture);
-    if (capture)
+    if (capture) {
         generator.listCaptures(stack);
-    compareBitMoves<N, White>(stack, capture ? want.moves : std::vector<plain::Move>(), b);
+        compareBitMoves<N, White>(stack, want.moves, b);
+    }
     EXPECT_TRUE(capture || generator.countQuiet() == static_cast<int>(want.quiet.size()));
     generator.listQuiet(stack);
     compareBitMoves<N, White>(stack, want.quiet, b);
@@ -134,7 +134,11 @@ void compareBits(const board &b, bool gambit, const Findings &want) {
     using Squares = DarkSquares<N>;
     EXPECT_TRUE(BitPosition<N>::representable(b));
     const BitPosition<N> p(b);
-    EXPECT_EQ(p.key(b.whiteToMove), plain::key(b));
+    for (board either = b; const bool white : {true, false}) {
+        either.whiteToMove = white;
+        EXPECT_EQ(either.HKey(), plain::key(either));
+        EXPECT_EQ(p.key(white), plain::key(either));
+    }
     board written(N);
     written.whiteToMove = b.whiteToMove;
     p.writeTo(written);
@@ -164,12 +168,8 @@ void compareBits(const board &b, bool gambit, const Findings &want) {
 }
 
 template <const RuleTraits &Rules>
-void compareBits(const board &b, bool gambit, const Findings &want) {
-    constexpr void (*bySize[])(const board &, bool,
-                               const Findings &) = {compareBits<6, Rules>, compareBits<8, Rules>,
-                                                    compareBits<10, Rules>, compareBits<12, Rules>};
-    bySize[b.size / 2 - 3](b, gambit, want);
-}
+constexpr void (*bySize[])(const board &, bool, const Findings &) = {
+    compareBits<6, Rules>, compareBits<8, Rules>, compareBits<10, Rules>, compareBits<12, Rules>};
 
 class Twin : public testing::Test {
 protected:
@@ -196,9 +196,9 @@ protected:
         AbstractEngine::isGambit = gambit;
         const Findings want(rules, b, gambit);
         compareEngine(rules, b, want);
-        (rules == RuleSet::American ? compareBits<americanRules>
-         : rules == RuleSet::Polish ? compareBits<polishRules>
-                                    : compareBits<internationalRules>)(b, gambit, want);
+        (rules == RuleSet::American ? bySize<americanRules>
+         : rules == RuleSet::Polish ? bySize<polishRules>
+                                    : bySize<internationalRules>)[b.size / 2 - 3](b, gambit, want);
         AbstractEngine::setSQV(nullptr);
         if (HasFailure())
             ADD_FAILURE() << "rules " << static_cast<int>(rules) << " gambit " << gambit << '\n'
