@@ -5,11 +5,7 @@
 #include <sstream>
 #include <string_view>
 
-namespace {
-
-constexpr std::string_view letters = ".....wW..bB"; // by square code
-
-} // namespace
+static constexpr std::string_view letters = ".....wW..bB"; // by square code
 
 board drawn(const std::string &picture) {
     std::istringstream words(picture);

@@ -29,8 +29,7 @@ struct EngineRig {
     EngineRig(RuleSet rules, const board &b) : position(b), values(b.size, false) {
         XY::B_SIZE = b.size;
         statistic.scoreNoise = 1;
-        AbstractEngine::breakThinking = false;
-        AbstractEngine::isGambit = false;
+        AbstractEngine::breakThinking = AbstractEngine::isGambit = false;
         AbstractEngine::eventLoop = 0;
         AbstractEngine::absHorizon = -1;
         AbstractEngine::setSQV(&values);

@@ -1,6 +1,7 @@
 #include "tests/support/plaintwin.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace plain {
 
@@ -43,10 +44,8 @@ void eachSquare(const board &b, Visit visit) {
 
 // The position in the middle of a capture: the piece stands on `to`, the jumped one is marked.
 board jumped(board b, XY from, XY over, XY to) {
-    const unsigned char piece = b.Get(from);
-    b.Get(from) = 0;
+    std::swap(b.Get(from), b.Get(to));
     b.Get(over) = static_cast<unsigned char>(b.Get(over) + 16);
-    b.Get(to) = piece;
     return b;
 }
 
@@ -115,12 +114,11 @@ int squareValue(int n, bool gambit, int x, int y) {
 
 int protection(const board &b, XY p) {
     const View view{b};
-    int sides[2] = {0, 0};
-    for (int d = 0; d < 4; ++d) {
+    const auto guarded = [&](int d) {
         const XY q = step(p, d);
-        if (!view.has(q) || (view.at(q) != 0 && isWhite(view.at(q)) == isWhite(view.at(p))))
-            ++sides[d % 2];
-    }
+        return !view.has(q) || (view.at(q) != 0 && isWhite(view.at(q)) == isWhite(view.at(p)));
+    };
+    const int sides[2] = {guarded(0) + guarded(2), guarded(1) + guarded(3)};
     return 5 * (sides[0] + sides[1]) + (sides[0] > 0 && sides[1] > 0 ? 5 : 0);
 }
 
@@ -162,10 +160,8 @@ bool advance(const View &view, Analysis &a, bool white, int now) {
 void markPassages(int n, Analysis &a, int side) {
     const int ahead = side == 4 ? 1 : -1;
     const int last = side == 4 ? n - 1 : 0;
-    for (int x = 0; x < n; ++x) {
-        if (a.reach[x][last] > 1 && a.owner[x][last] == side)
-            a.passage[x][last] = side;
-    }
+    for (int x = 0; x < n; ++x)
+        a.passage[x][last] = a.reach[x][last] > 1 && a.owner[x][last] == side ? side : 0;
     for (int y = last - ahead; side == 4 ? y >= 1 : y <= n - 3; y -= ahead) {
         for (int x = 0; x < n; ++x) {
             for (const int to : {x - 1, x + 1}) {
@@ -205,11 +201,9 @@ std::vector<Move> legalMoves(RuleSet rules, board &b) {
 
 void play(board &b, const Move &m) {
     const XY to = m.path.back();
-    int piece = b.Get(m.path.front());
-    if (isMan(piece) && to.y == (b.whiteToMove ? b.size - 1 : 0))
-        ++piece; // man 1 becomes king 2
-    b.Get(m.path.front()) = 0;
-    b.Get(to) = static_cast<unsigned char>(piece);
+    std::swap(b.Get(m.path.front()), b.Get(to));
+    if (isMan(b.Get(to)) && to.y == (b.whiteToMove ? b.size - 1 : 0))
+        ++b.Get(to); // man 1 becomes king 2
     for (const XY &p : m.taken)
         b.Get(p) = 0;
     b.whiteToMove = !b.whiteToMove;
@@ -219,8 +213,7 @@ void play(board &b, const Move &m) {
 bool aboutToPass(const board &b) {
     bool found = false;
     eachSquare(b, [&](XY p, int code) {
-        found |=
-            code >= 32 && ((p.y == b.size - 2 && code % 32 == 5) || (p.y == 1 && code % 32 == 9));
+        found |= (p.y == b.size - 2 && code == 32 + 5) || (p.y == 1 && code == 32 + 9);
     });
     return found;
 }
@@ -271,10 +264,8 @@ int value(RuleSet rules, const board &b, bool gambit, const Analysis *passages) 
         const bool white = isWhite(code);
         const XY seen = white ? p : XY(n - 1 - p.x, n - 1 - p.y); // from its own side of the board
         int points = protection(b, p);
-        if (!isMan(code))
-            points += kingValue(rules, b, p, gambit, kings[white]++ == 0);
-        else
-            points += 1000 + squareValue(n, gambit, seen.x, seen.y);
+        points += isMan(code) ? 1000 + squareValue(n, gambit, seen.x, seen.y)
+                              : kingValue(rules, b, p, gambit, kings[white]++ == 0);
         if (isMan(code) && rules != RuleSet::American && passages != nullptr &&
             passages->passage[p.x][p.y] != 0)
             points += 2 * (1000 / n) / 3 * seen.y;
