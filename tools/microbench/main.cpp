@@ -62,7 +62,7 @@ public:
 void listOverBits(benchmark::State &state, Kind kind) {
     const Position p(positionOf(kind));
     MoveStack<BitMove<size>> stack;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Generator generator(p);
         if (generator.canCapture())
             generator.listCaptures(stack);
@@ -78,7 +78,7 @@ BENCHMARK_CAPTURE(listOverBits, kingCaptures, Kind::KingCaptures);
 
 void countOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Generator generator(p);
         benchmark::DoNotOptimize(generator.canCapture() ? 0 : generator.countQuiet());
     }
@@ -87,7 +87,7 @@ BENCHMARK(countOverBits);
 
 void listOverEngine(benchmark::State &state, Kind kind) {
     Rig rig(positionOf(kind));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(rig.engine.FillMoveList());
 }
 BENCHMARK_CAPTURE(listOverEngine, quiet, Kind::Quiet);
@@ -96,14 +96,14 @@ BENCHMARK_CAPTURE(listOverEngine, kingCaptures, Kind::KingCaptures);
 
 void analysisOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(BitAnalysis<size>(p, true).canPass());
 }
 BENCHMARK(analysisOverBits);
 
 void analysisOverCells(benchmark::State &state) {
     const board b = positionOf(Kind::Quiet);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         heuristic h;
         h.analyse(&b);
         benchmark::DoNotOptimize(h);
@@ -114,28 +114,28 @@ BENCHMARK(analysisOverCells);
 void materialOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
     const BitMaterial<size, true> material(SquaresValue(size, false), false);
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(material.balance(p, 0, 0));
 }
 BENCHMARK(materialOverBits);
 
 void materialOverEngine(benchmark::State &state) {
     Rig rig(positionOf(Kind::Quiet));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(rig.engine.materialScore(nullptr));
 }
 BENCHMARK(materialOverEngine);
 
 void keyOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(p.key(true));
 }
 BENCHMARK(keyOverBits);
 
 void keyOverSquares(benchmark::State &state) {
     const board b = positionOf(Kind::Quiet);
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(b.HKey());
 }
 BENCHMARK(keyOverSquares);
@@ -160,7 +160,7 @@ void hashInsert(benchmark::State &state) {
     const std::vector<board> positions = manyPositions(5000);
     hashTable table(hashSlots);
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(table.insert(&positions[next]));
         next = (next + 1) % positions.size();
         if (next == 0)
@@ -176,7 +176,7 @@ void hashFind(benchmark::State &state) {
         table.insert(&b);
     std::size_t next = 0;
     unsigned int slot = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(table.find(&positions[next], slot));
         next = (next + 1) % positions.size();
     }
@@ -193,7 +193,7 @@ void hashFindOverBits(benchmark::State &state) {
         bitTable.insert(positions.back(), true, 0, 0, 0, 1);
     }
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(bitTable.find(positions[next], true));
         next = (next + 1) % positions.size();
     }
@@ -206,7 +206,7 @@ void wholeSearch(benchmark::State &state) {
     task.position = positionOf(Kind::Quiet);
     task.depth = static_cast<int>(state.range(0));
     qint64 nodes = 0;
-    for (auto _ : state)
+    while (state.KeepRunning())
         nodes += runTask(task, false).statistic.nodes;
     state.counters["nodes/s"] =
         benchmark::Counter(static_cast<double>(nodes), benchmark::Counter::kIsRate);
