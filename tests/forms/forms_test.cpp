@@ -13,7 +13,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSet>
 #include <QTest>
 
 namespace {
@@ -107,16 +106,6 @@ TEST_F(Forms, SettingsOfferEveryChoiceAndFollowThePlayerOnly) {
     settings.setDefaults();
     for (const auto &row : rows)
         EXPECT_EQ(row.combo->currentIndex() * 10 + *row.field, row.current * 11) << row.items;
-}
-
-TEST_F(Forms, CreditsHaveTheNameAndAPictureOfManyColours) {
-    EXPECT_EQ(about.TextLabel1->text(), "Tavlora v 1.0.3");
-    const QImage drawing = about.PixmapLabel1->pixmap(Qt::ReturnByValue).toImage();
-    QSet<QRgb> colours;
-    for (int at = 0; at < 80 * 81; ++at)
-        colours.insert(drawing.pixel(at % 80, at / 80));
-    EXPECT_EQ(colours.size(), 186);
-    EXPECT_EQ(game.labelScore->toolTip(), "On Board");
 }
 
 } // namespace

@@ -170,22 +170,4 @@ TEST_F(FlightTest, OneSquareTakesSixStepsWithItsEndsMarked) {
     EXPECT_EQ(canvas.isMarked(2, 2), MarkPath);
 }
 
-// Five steps a square and one more to end each leg.
-TEST_F(FlightTest, PathsEndOnTheirLastSquareAfterAllTheirLegs) {
-    const std::tuple<const char *, int, int> cases[] = {
-        {"33 51 95", 3, 11 + 11 + 21},
-        {"55 55 11", 3, 21 + 1 + 21}, // round, and a leg of no length
-        {"11", 1, 1}};
-    for (const auto &[squares, legs, steps] : cases) {
-        flights.clear();
-        dances.clear();
-        DrCanvasPiece *piece = launch(squares);
-        EXPECT_EQ(stepsToEnd(piece, path.last().x, path.last().y), steps);
-        EXPECT_EQ(flights.count(), legs) << squares;
-        EXPECT_EQ(dances.count(), 1) << squares;
-        for (const XY &square : path)
-            EXPECT_EQ(canvas.isMarked(square.x, square.y), MarkPath);
-    }
-}
-
 } // namespace
