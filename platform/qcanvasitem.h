@@ -34,8 +34,6 @@ public:
     // Moves to exactly that position; the other moving operations end here.
     virtual void move(double x, double y);
     void moveBy(double dx, double dy) { move(x_ + dx, y_ + dy); }
-    void setX(double x) { move(x, y_); }
-    void setY(double y) { move(x_, y); }
 
     // Items of higher z are drawn over items of lower z; among equals the later made is on top.
     double z() const { return z_; }

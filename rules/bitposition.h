@@ -58,7 +58,7 @@ struct BitPosition {
     // Writes the pieces into the squares of a board of this size.
     void writeTo(board &b) const {
         b.clear();
-        for (Bits rest = white | black; rest != 0;) {
+        for (Bits rest = occupied(); rest != 0;) {
             const int i = takeLowest(rest);
             b.Get(Squares::squareOf(i)) =
                 static_cast<unsigned char>(codeOf(hasBit(black, i), hasBit(kings, i)));
@@ -66,7 +66,7 @@ struct BitPosition {
     }
 
     Bits occupied() const { return white | black; }
-    Bits empty() const { return Squares::all & ~(white | black); }
+    Bits empty() const { return Squares::all & ~occupied(); }
     template <bool White>
     Bits side() const {
         return White ? white : black;
