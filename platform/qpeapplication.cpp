@@ -2,6 +2,7 @@
 
 #include "platform/compactstyle.h"
 #include "platform/displaysetup.h"
+#include "platform/programidentity.h"
 
 #include <QFont>
 
@@ -19,6 +20,7 @@ int &withDisplayPrepared(int &argc, char **argv) {
 
 QPEApplication::QPEApplication(int &argc, char **argv, Type)
     : QApplication(withDisplayPrepared(argc, argv), argv), previousHost(setHost(&guiHost)) {
+    identifyProgram();
     if (!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE"))
         setStyle(new CompactStyle);
     QFont defaultFont = font();

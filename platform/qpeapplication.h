@@ -7,9 +7,10 @@
 
 #include <QApplication>
 
-// Makes a desktop fit for the forms: prepares the display (see displaysetup.h), takes a 9 point
-// default font and a compact style, gives modal form dialogs their controls (see dialogcontrols.h)
-// and installs the host with real boxes and events for as long as it lives.
+// Makes a desktop fit for the forms: prepares the display (see displaysetup.h), tells the desktop
+// who the program is (see programidentity.h), takes a 9 point default font and a compact style,
+// gives modal form dialogs their controls (see dialogcontrols.h) and installs the host with real
+// boxes and events for as long as it lives.
 class QPEApplication : public QApplication {
     Q_OBJECT
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontInfo>
+#include <QIcon>
 #include <QWidget>
 
 TEST(FormScaleFactor, IsWholeAndFitsTheScreen) {
@@ -32,6 +33,8 @@ TEST(QPEApplication, PreparesTheDisplayAndTheHostButLeavesTheUsersScaleAlone) {
         EXPECT_EQ(QWidget().devicePixelRatio(), scale);
         EXPECT_EQ(QFontInfo(QWidget().font()).pixelSize(), 9);
         EXPECT_NE(&host(), &before);
+        EXPECT_EQ(QGuiApplication::desktopFileName(), "tavlora");
+        EXPECT_GE(QWidget().windowIcon().availableSizes().size(), 7);
     }
     EXPECT_EQ(&host(), &before);
 }
