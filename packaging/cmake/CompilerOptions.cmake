@@ -12,10 +12,12 @@ if(DRAUGHTS_SANITIZE)
 endif()
 
 # The search counts and scans bit sets: on x86 the instructions for that are not in the base set.
-# The program is built where it runs, so it may use what this processor has; the level is a named
-# one (not "native") so that a profile or a memory checker understands every instruction of it.
+# A program that is built where it runs may use what this processor has; the level is a named one
+# (not "native") so that a profile or a memory checker understands every instruction of it. A program
+# that travels (a package) is built for the base set.
 include(CheckCXXSourceRuns)
-if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT CMAKE_CROSSCOMPILING)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT CMAKE_CROSSCOMPILING
+   AND NOT DRAUGHTS_PORTABLE)
     check_cxx_source_runs("
         int main() {
             return __builtin_cpu_supports(\"avx2\") && __builtin_cpu_supports(\"bmi2\") &&
