@@ -1,0 +1,69 @@
+#include "tools/monkey/hand.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWidget>
+
+namespace {
+
+constexpr int longPauseMs = 1000;
+constexpr int shortPauseMs = 10;
+
+} // namespace
+
+void Hand::send(QEvent::Type type, QPoint at, Qt::MouseButtons down, Qt::MouseButton changed) {
+    now_ += shortPauseMs;
+    qt_handleMouseEvent(pressedOn_, at, pressedOn_->mapToGlobal(at), down, changed, type,
+                        Qt::NoModifier, now_);
+}
+
+void Hand::press(const QWidget *window, QPoint at, Qt::MouseButton button) {
+    now_ += longPauseMs;
+    pressedOn_ = window->windowHandle();
+    held_ = button;
+    send(QEvent::MouseButtonPress, at, button, button);
+}
+
+void Hand::drag(QPoint to) {
+    send(QEvent::MouseMove, to, held_, Qt::NoButton);
+}
+
+void Hand::release(QPoint at) {
+    const Qt::MouseButton button = held_;
+    held_ = Qt::NoButton;
+    send(QEvent::MouseButtonRelease, at, Qt::NoButton, button);
+}
+
+void Hand::click(const QWidget *window, QPoint at, Qt::MouseButton button) {
+    press(window, at, button);
+    if (canRelease())
+        release(at);
+}
+
+void Hand::doubleClick(const QWidget *window, QPoint at, Qt::MouseButton button) {
+    click(window, at, button);
+    if (holds() || pressedOn_.isNull())
+        return;
+    held_ = button;
+    send(QEvent::MouseButtonPress, at, button, button);
+    if (canRelease())
+        release(at);
+}
+
+void Hand::turnWheel(QWidget *widget, bool up) {
+    const QPoint at = widget->rect().center();
+    constexpr int notch = 120;
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, up ? notch : -notch}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &event);
+}
+
+void Hand::type(const QWidget *window, int key) {
+    if (!window->isVisible())
+        return;
+    // What a window manager does when another window closes.
+    if (QGuiApplication::focusWindow() != window->windowHandle())
+        window->windowHandle()->requestActivate();
+    QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(key));
+}
