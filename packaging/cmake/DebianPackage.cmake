@@ -20,7 +20,10 @@ string(JOIN _ CPACK_DEBIAN_FILE_NAME tavlora ${PROJECT_VERSION}-${CPACK_DEBIAN_P
        ${CPACK_DEBIAN_PACKAGE_ARCHITECTURE}.deb)
 set_property(GLOBAL PROPERTY DRAUGHTS_DEB ${CPACK_DEBIAN_FILE_NAME})
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON) # depend on what is linked
+# What the program is linked with is what the package depends on. Without dpkg-shlibdeps cpack would
+# make one that depends on nothing.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/PackageNeeds.cmake)
 # A desktop has fonts, and those on Wayland the plugin for it; the game shows itself on X11 without.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core | fonts-liberation, qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "draughts against the computer or another person")
