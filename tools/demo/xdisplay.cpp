@@ -109,8 +109,7 @@ QImage XDisplay::picture(xcb_window_t window) const {
     return image;
 }
 
-void XDisplay::tap(xcb_window_t window, QPoint point) {
-    constexpr uint8_t leftButton = 1;
+void XDisplay::tap(xcb_window_t window, QPoint point, PointerButton button) {
     xcb_connection_t *connection = m_connection.get();
     const auto place = owned(xcb_translate_coordinates_reply(
         connection,
@@ -122,10 +121,10 @@ void XDisplay::tap(xcb_window_t window, QPoint point) {
     }
     xcb_test_fake_input(connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, place->dst_x,
                         place->dst_y, 0);
-    xcb_test_fake_input(connection, XCB_BUTTON_PRESS, leftButton, XCB_CURRENT_TIME, m_root, 0, 0,
-                        0);
-    xcb_test_fake_input(connection, XCB_BUTTON_RELEASE, leftButton, XCB_CURRENT_TIME, m_root, 0, 0,
-                        0);
+    for (const uint8_t type : {uint8_t{XCB_BUTTON_PRESS}, uint8_t{XCB_BUTTON_RELEASE}}) {
+        xcb_test_fake_input(connection, type, static_cast<uint8_t>(button), XCB_CURRENT_TIME,
+                            m_root, 0, 0, 0);
+    }
     xcb_flush(connection);
 }
 

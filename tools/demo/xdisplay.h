@@ -10,6 +10,9 @@
 
 #include <memory>
 
+// As X numbers them.
+enum class PointerButton : uint8_t { Left = 1, WheelDown = 5 };
+
 // A connection to the display that DISPLAY names. All points and sizes are device pixels. Without a
 // connection every operation does nothing and returns its empty value.
 class XDisplay {
@@ -24,8 +27,8 @@ public:
     // What the window shows now; a null image when it is gone, partly off the screen, or the
     // screen has not 24-bit colour.
     QImage picture(xcb_window_t window) const;
-    // Moves the pointer to a point of the window and clicks the left button, as a mouse would.
-    void tap(xcb_window_t window, QPoint point);
+    // Moves the pointer to a point of the window and clicks the button, as a mouse would.
+    void tap(xcb_window_t window, QPoint point, PointerButton button = PointerButton::Left);
     // Asks the window to close, as the close button of a title bar does.
     void close(xcb_window_t window);
 
