@@ -14,16 +14,18 @@ endif()
 # The search counts and scans bit sets: on x86 the instructions for that are not in the base set.
 # A program that is built where it runs may use what this processor has; the level is a named one
 # (not "native") so that a profile or a memory checker understands every instruction of it. A program
-# that travels (a package) is built for the base set.
+# that travels (a package) is built for the base set, with a second engine for the named level.
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    set(DRAUGHTS_FAST_LEVEL x86-64-v3)
+endif()
 include(CheckCXXSourceRuns)
-if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT CMAKE_CROSSCOMPILING
-   AND NOT DRAUGHTS_PORTABLE)
+if(DRAUGHTS_FAST_LEVEL AND NOT CMAKE_CROSSCOMPILING AND NOT DRAUGHTS_PORTABLE)
     check_cxx_source_runs("
         int main() {
             return __builtin_cpu_supports(\"avx2\") && __builtin_cpu_supports(\"bmi2\") &&
                    __builtin_cpu_supports(\"popcnt\") ? 0 : 1;
         }" DRAUGHTS_HAS_X86_64_V3)
     if(DRAUGHTS_HAS_X86_64_V3)
-        target_compile_options(draughts_options INTERFACE -march=x86-64-v3)
+        target_compile_options(draughts_options INTERFACE -march=${DRAUGHTS_FAST_LEVEL})
     endif()
 endif()

@@ -23,6 +23,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 # What the program is linked with is what the package depends on. Without dpkg-shlibdeps cpack would
 # make one that depends on nothing.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib) # the engine
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/PackageNeeds.cmake)
 # A desktop has fonts, and those on Wayland the plugin for it; the game shows itself on X11 without.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core | fonts-liberation, qt6-wayland")
