@@ -6,8 +6,7 @@
 include(GNUInstallDirs)
 set(DRAUGHTS_LIBRARY_DIR ${CMAKE_INSTALL_LIBDIR}/tavlora)
 
-# The library is nobody else's, so its functions may call each other directly; what is linked with it
-# finds it from where it is itself.
+# The library is nobody else's, so its functions may call each other directly.
 function(engine_variant target place)
     set_target_properties(${target} PROPERTIES
         OUTPUT_NAME tavlora-engine
@@ -18,8 +17,8 @@ function(engine_variant target place)
             PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 endfunction()
 
-file(RELATIVE_PATH to_libraries /${CMAKE_INSTALL_BINDIR} /${DRAUGHTS_LIBRARY_DIR})
-set_target_properties(tavlora PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
+# The full path: a relative one is found by way of /proc, which need not be there.
+set_target_properties(tavlora PROPERTIES INSTALL_RPATH ${CMAKE_INSTALL_FULL_LIBDIR}/tavlora)
 engine_variant(draughts_engine "")
 
 if(DRAUGHTS_FAST_LEVEL)
