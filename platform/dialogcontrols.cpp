@@ -1,5 +1,7 @@
 #include "platform/dialogcontrols.h"
 
+#include "platform/focusstop.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -17,6 +19,7 @@
 #include <QWizard>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -41,9 +44,47 @@ bool isChooser(const QWidget *widget) {
            !isOneOf<QScrollBar>(widget);
 }
 
-bool holdsSomethingToChoose(const QDialog *dialog) {
-    const QList<QWidget *> widgets = dialog->findChildren<QWidget *>();
-    return std::any_of(widgets.begin(), widgets.end(), isChooser);
+bool isPartOfAChooser(const QWidget *widget) {
+    for (const QWidget *above = widget->parentWidget(); above != nullptr;
+         above = above->parentWidget()) {
+        if (isChooser(above))
+            return true;
+    }
+    return false;
+}
+
+// As the eye goes: line by line.
+QList<QWidget *> choosersOf(const QDialog *dialog) {
+    QList<QWidget *> choosers;
+    for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+        if (isChooser(widget) && !isPartOfAChooser(widget))
+            choosers << widget;
+    }
+    std::sort(choosers.begin(), choosers.end(), [dialog](const QWidget *a, const QWidget *b) {
+        const QPoint placeA = a->mapTo(dialog, QPoint());
+        const QPoint placeB = b->mapTo(dialog, QPoint());
+        return std::pair(placeA.y(), placeA.x()) < std::pair(placeB.y(), placeB.x());
+    });
+    return choosers;
+}
+
+// The choosers, those that take no focus replaced by their stops.
+QList<QWidget *> newTabOrder(QDialog *dialog) {
+    QList<QWidget *> order = choosersOf(dialog);
+    for (QWidget *&chooser : order) {
+        if ((chooser->focusPolicy() & Qt::TabFocus) == 0)
+            chooser = new FocusStop(chooser, dialog);
+    }
+    return order;
+}
+
+// The row stands last in the toolkit's circle of widgets, where it comes after the stops. Only then
+// is the rest moved: the toolkit leaves alone what follows on the other round the circle.
+void addControls(QDialog *dialog) {
+    const QList<QWidget *> order = newTabOrder(dialog);
+    new ControlRow(dialog);
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 bool isLayoutsLimit(const QDialog *dialog) {
@@ -59,13 +100,13 @@ bool DialogControls::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Show && !event->spontaneous()) {
         auto *dialog = qobject_cast<QDialog *>(watched);
         if (dialog != nullptr && dialog->isModal() && !bringsItsControls(dialog))
-            new ControlRow(dialog);
+            addControls(dialog);
     }
     return QObject::eventFilter(watched, event);
 }
 
 ControlRow::ControlRow(QDialog *dialog) : QDialogButtonBox(dialog) {
-    addButtons(dialog);
+    addButtons(!choosersOf(dialog).isEmpty());
     connect(this, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     connect(this, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     growDialog(dialog);
@@ -86,8 +127,7 @@ bool ControlRow::eventFilter(QObject *watched, QEvent *event) {
 }
 
 // Cancel does not become the default button when it gets the focus: Return always accepts.
-void ControlRow::addButtons(QDialog *dialog) {
-    const bool choice = holdsSomethingToChoose(dialog);
+void ControlRow::addButtons(bool choice) {
     addButton(QDialogButtonBox::Ok)->setDefault(true);
     if (choice)
         addButton(QDialogButtonBox::Cancel)->setAutoDefault(false);

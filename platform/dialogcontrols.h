@@ -8,8 +8,10 @@
 class QDialog;
 
 // Watches the application for modal dialogs that are shown without a button row of their own and
-// gives each such dialog a ControlRow, once. Message boxes and the toolkit's other ready-made
-// dialogs are left alone. Install it on the application object with installEventFilter().
+// gives each such dialog a ControlRow, once. Tab goes through the dialog line by line, the row
+// last; choosers that take no focus are reached through a FocusStop each. Message boxes and the
+// toolkit's other ready-made dialogs are left alone. Install it on the application object with
+// installEventFilter().
 class DialogControls : public QObject {
     Q_OBJECT
 
@@ -36,7 +38,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addButtons(QDialog *dialog);
+    void addButtons(bool choice);
     void growDialog(QDialog *dialog);
     void placeBelowForm(const QDialog *dialog);
 };
