@@ -103,6 +103,7 @@ void Draughts::createCanvas() {
 
 void Draughts::createView() {
     pView = new MyCanvasView(pCanvas.get(), this, pMetrics.get());
+    pView->setAccessibleName(tr("Board"));
 }
 
 // A dialog that is open, or a search that runs, is left at once, so that the event loop can end.

@@ -7,6 +7,8 @@
 #include "platform/qarray.h"
 #include "rules/xy.h"
 
+#include <QPointer>
+
 #include <memory>
 #include <vector>
 
@@ -49,7 +51,8 @@ public:
     explicit Draughts(QWidget *parent = nullptr, const char *name = nullptr);
     ~Draughts() override;
 
-    // Shows the piece counts and hands the turn to whoever plays the side to move.
+    // Shows the piece counts, describes the board to assistive technology and hands the turn to
+    // whoever plays the side to move.
     void DoPlayerMove();
     // Searches and plays the computer's move, or ends the game when there is none.
     void computerMove();
@@ -168,6 +171,8 @@ private:
     void showThinking();
     void lockControls();
     void restoreControls();
+    void keepFocus();
+    void giveBackFocus();
     void giveTurnToPlayer();
     void setPlayers(bool white, bool black);
     void setPlayersByChoice(int item);
@@ -177,6 +182,8 @@ private:
     void playMove(LegalMove *move);
     void enableSteps();
     void restorePosition();
+
+    QPointer<QWidget> focusKept; // while the controls are locked: what had the focus before
 };
 
 #endif

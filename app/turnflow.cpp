@@ -2,6 +2,7 @@
 
 #include "app/draughts.h"
 
+#include "app/boarddescription.h"
 #include "app/choices.h"
 #include "app/gamehist.h"
 #include "forms/formsettings.h"
@@ -30,6 +31,7 @@ void Draughts::DoPlayerMove() {
     int black = 0;
     pBoard->countPieces(white, black);
     labelScore->setText(QStringLiteral("%1/%2").arg(white).arg(black));
+    pView->setAccessibleDescription(boardDescription(*pBoard));
     if (pBoard->whiteToMove)
         testPieces();
     if (isComputersTurn())
@@ -73,6 +75,7 @@ LegalMove *Draughts::searchMove() {
 }
 
 void Draughts::showThinking() {
+    keepFocus();
     pView->setCursor(Qt::ForbiddenCursor);
     disconnect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput);
     lblThinking->setText(tr("*** THINKING ***"));
@@ -107,6 +110,7 @@ void Draughts::waitUser() {
     connect(btnForce, &QPushButton::clicked, this, &Draughts::forceMove, Qt::UniqueConnection);
     btnForce->setEnabled(true);
     enableSteps();
+    giveBackFocus();
 }
 
 void Draughts::gameOver() {
@@ -118,10 +122,12 @@ void Draughts::gameOver() {
     host().messageBox(BoxKind::Warning, QStringLiteral("Game Over"), QStringLiteral("Game Over"),
                       BoxButtons::Ok, this);
     lblThinking->setText(tr("Game Over"));
+    giveBackFocus();
 }
 
 // For the time of a flight. NewGame is disconnected instead.
 void Draughts::lockControls() {
+    keepFocus();
     for (QPushButton *button : {btnForce, btnSettings, btnPrev, btnFwd, btnAbout})
         button->setEnabled(false);
 }
@@ -134,6 +140,20 @@ void Draughts::restoreControls() {
     btnAbout->show();
     for (QPushButton *button : {btnAbout, btnForce, btnSettings, btnNewGame})
         button->setEnabled(true);
+}
+
+// The toolkit takes the focus from a button that is disabled or hidden and gives it to another, in
+// the end to none.
+void Draughts::keepFocus() {
+    if (focusKept.isNull())
+        focusKept = focusWidget();
+}
+
+// Whoever plays by keyboard goes on from the button pressed last.
+void Draughts::giveBackFocus() {
+    if (!focusKept.isNull() && focusKept->isEnabled())
+        focusKept->setFocus();
+    focusKept.clear();
 }
 
 void Draughts::enableSteps() {

@@ -66,6 +66,7 @@ void fabout::addPicture() {
     PixmapLabel1->setObjectName(QStringLiteral("PixmapLabel1"));
     PixmapLabel1->setPixmap(QPixmap(image0_data));
     PixmapLabel1->setScaledContents(true);
+    PixmapLabel1->setAccessibleName(tr("A king and a man on the board"));
     pictureLayout->addItem(newSpacer());
     pictureLayout->addWidget(PixmapLabel1, 0, Qt::AlignVCenter);
     pictureLayout->addItem(newSpacer());

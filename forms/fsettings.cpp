@@ -78,6 +78,7 @@ QHBoxLayout *fsettings::addRow(QLabel *label, QComboBox *combo) {
     formLayout->addLayout(row);
     row->addWidget(label);
     row->addWidget(combo);
+    label->setBuddy(combo);
     return row;
 }
 

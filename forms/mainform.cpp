@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace {
 
@@ -22,6 +23,8 @@ MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(paren
     addUpperRow();
     addLowerRow();
     setFonts();
+    nameControls();
+    orderControls();
 }
 
 MainForm::~MainForm() = default;
@@ -79,6 +82,9 @@ void MainForm::addUpperRow() {
     btnBreak->setMaximumSize(40, 22);
     btnBreak->setEnabled(true);
     btnBreak->setFocusPolicy(Qt::NoFocus);
+    // Not the button's own shortcut, which presses it for a tenth of a second first.
+    const auto *breakKey = new QShortcut(Qt::Key_Escape, btnBreak);
+    connect(breakKey, &QShortcut::activated, btnBreak, &QPushButton::click);
 
     btnForce = addButton(this, "btnForce", tr("Force Move"));
     btnForce->setGeometry(130, 235, 60, 22);
@@ -113,4 +119,21 @@ void MainForm::setFonts() {
         formfonts::setPointSize(button, smallPoints);
     formfonts::setPointSize(btnFwd, forwardPoints);
     formfonts::setBold(lblThinking);
+}
+
+// What the texts alone do not tell those who hear them.
+void MainForm::nameControls() {
+    btnPrev->setAccessibleName(tr("One move back"));
+    btnFwd->setAccessibleName(tr("One move forward"));
+    btnBreak->setAccessibleDescription(
+        tr("Plays the best move found so far; so does the Escape key."));
+    btnForce->setAccessibleDescription(tr("Lets the computer move for the side to move."));
+}
+
+// As the eye goes, whatever order they were made in.
+void MainForm::orderControls() {
+    const std::initializer_list<QWidget *> order = {btnPrev,  btnFwd,      btnAbout,
+                                                    btnForce, btnSettings, btnNewGame};
+    for (auto next = order.begin() + 1; next != order.end(); ++next)
+        setTabOrder(*(next - 1), *next);
 }

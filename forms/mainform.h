@@ -13,7 +13,8 @@ class QPushButton;
 // A fixed form of 240 x 320 pixels: room for the board at the top and below it two rows of small
 // buttons and two labels. It creates and places its children and keeps their fonts; what the
 // buttons do is the business of the class that derives from it. btnAbout and btnBreak overlap: one
-// of them is to be hidden. The children belong to the form.
+// of them is to be hidden. While btnBreak shows, Escape presses it. The children belong to the
+// form.
 class MainForm : public QWidget {
     Q_OBJECT
 
@@ -43,6 +44,8 @@ private:
     void addUpperRow();
     void addLowerRow();
     void setFonts();
+    void nameControls();
+    void orderControls();
 };
 
 #endif

@@ -20,15 +20,21 @@ void duringSearch(RecordingHost &host, std::function<void()> act) {
 
 TEST_F(GameTest, BreakEndsALongSearchAndKeepsItsSide) {
     game.setLevel(infinite);
-    duringSearch(host, [this] {
+    int players = humans;
+    duringSearch(host, [this, &players] {
         EXPECT_EQ(status(), "[*** THINKING ***] 20/20 Break");
         EXPECT_EQ(game.pView->cursor().shape(), Qt::ForbiddenCursor);
         tap(5, 3);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         EXPECT_FALSE(AbstractEngine::breakThinking);
-        press(game.btnBreak);
+        if (players == humans)
+            press(game.btnBreak);
+        else
+            QTest::keyClick(game.windowHandle(), Qt::Key_Escape);
     });
-    for (const int players : {humans, computers}) {
+    game.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&game));
+    for (players = humans; players <= computers; ++players) {
         place(startOfTen, players);
         if (players == humans)
             press(game.btnForce);
