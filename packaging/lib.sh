@@ -3,7 +3,7 @@
 
 # Everything that building, testing and the demonstration need, by Debian package.
 packages="g++ cmake ninja-build qt6-base-dev fonts-dejavu-core libgtest-dev libbenchmark-dev"
-packages="$packages libxcb1-dev libxcb-xtest0-dev xvfb"
+packages="$packages libxcb1-dev libxcb-xtest0-dev xvfb qt6-tools-dev qt6-l10n-tools"
 
 logs=build/logs
 progress_every=30
@@ -131,6 +131,8 @@ require_tools() {
     has ninja || has ninja-build || absent="$absent, ninja"
     has_cmake_package Qt6 || absent="$absent, the development files of Qt 6.4 or later (qtbase)"
     has_cmake_package GTest || absent="$absent, GoogleTest"
+    has_cmake_package Qt6LinguistTools ||
+        absent="$absent, the Linguist tools of Qt 6 (qttools)"
     has Xvfb || absent="$absent, Xvfb"
     [ -z "$absent" ] || fail "there is no apt here to install what is missing: ${absent#, }
 On Debian the packages are: $packages"

@@ -4,13 +4,14 @@
 
 #include "platform/dialogcontrols.h"
 #include "platform/guihost.h"
+#include "platform/translations.h"
 
 #include <QApplication>
 
 // Makes a desktop fit for the forms: prepares the display (see displaysetup.h), tells the desktop
 // who the program is (see programidentity.h), takes a 9 point default font and a compact style,
-// gives modal form dialogs their controls (see dialogcontrols.h) and installs the host with real
-// boxes and events for as long as it lives.
+// gives modal form dialogs their controls (see dialogcontrols.h), speaks the user's language (see
+// translations.h) and installs the host with real boxes and events for as long as it lives.
 class QPEApplication : public QApplication {
     Q_OBJECT
 
@@ -26,6 +27,7 @@ private:
     GuiHost guiHost;
     Host *previousHost;
     DialogControls dialogControls;
+    Translations translations;
 };
 
 #endif

@@ -11,8 +11,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 namespace {
@@ -44,28 +42,6 @@ TEST_F(Forms, HaveTheirNamesAndSizes) {
         form.resize(50, 50);
         EXPECT_TRUE(smallest.isEmpty() || form.size() == smallest) << name;
     }
-}
-
-TEST_F(Forms, CutOffNoTextAndNoPicture) {
-    for (QWidget *form : {static_cast<QWidget *>(&game), static_cast<QWidget *>(&settings),
-                          static_cast<QWidget *>(&figures), static_cast<QWidget *>(&about)}) {
-        form->show();
-        QApplication::processEvents();
-        for (const auto *label : form->findChildren<QLabel *>()) {
-            EXPECT_GE(label->height(), label->heightForWidth(label->width()));
-            EXPECT_TRUE(form->rect().contains(label->geometry())) << label->text().toStdString();
-            if (!label->wordWrap() && label != game.labelScore) {
-                EXPECT_LE(label->sizeHint().width(), label->width()) << label->text().toStdString();
-            }
-        }
-        for (const auto *button : form->findChildren<QPushButton *>()) {
-            EXPECT_LT(button->fontMetrics().horizontalAdvance(button->text()), button->width() - 4);
-            EXPECT_GE(button->width(), 20);
-        }
-        for (const auto *combo : form->findChildren<QComboBox *>())
-            EXPECT_GE(combo->width(), combo->minimumSizeHint().width());
-    }
-    EXPECT_LE(game.labelScore->fontMetrics().horizontalAdvance("20/20"), 34);
 }
 
 TEST_F(Forms, SettingsOfferEveryChoiceAndFollowThePlayerOnly) {

@@ -7,6 +7,7 @@
 
 #include <QFontInfo>
 #include <QIcon>
+#include <QLocale>
 #include <QWidget>
 
 TEST(FormScaleFactor, IsWholeAndFitsTheScreen) {
@@ -37,4 +38,21 @@ TEST(QPEApplication, PreparesTheDisplayAndTheHostButLeavesTheUsersScaleAlone) {
         EXPECT_GE(QWidget().windowIcon().availableSizes().size(), 7);
     }
     EXPECT_EQ(&host(), &before);
+}
+
+TEST(QPEApplication, SpeaksTheUsersLanguageAndElseEnglish) {
+    char program[] = "drive";
+    char *argv[] = {program, nullptr};
+    int argc = 1;
+    const struct {
+        const char *locale, *newGame, *cancel;
+    } cases[] = {{"pl_PL", "Nowa gra", "Anuluj"},      {"de_AT", "Neues Spiel", "Abbrechen"},
+                 {"nl_BE", "Nieuw spel", "Annuleren"}, {"en_GB", "NewGame", "Cancel"},
+                 {"fr_FR", "NewGame", "Cancel"},       {"C", "NewGame", "Cancel"}};
+    for (const auto &[locale, newGame, cancel] : cases) {
+        QLocale::setDefault(QLocale(locale));
+        const QPEApplication application(argc, argv);
+        EXPECT_EQ(QCoreApplication::translate("MainForm", "NewGame"), newGame) << locale;
+        EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel) << locale;
+    }
 }

@@ -1,0 +1,294 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>Draughts</name>
+    <message>
+        <source>White men: %1.</source>
+        <translation>Weiße Steine: %1.</translation>
+    </message>
+    <message>
+        <source>White kings: %1.</source>
+        <translation>Weiße Damen: %1.</translation>
+    </message>
+    <message>
+        <source>Black men: %1.</source>
+        <translation>Schwarze Steine: %1.</translation>
+    </message>
+    <message>
+        <source>Black kings: %1.</source>
+        <translation>Schwarze Damen: %1.</translation>
+    </message>
+    <message>
+        <source>White to move.</source>
+        <translation>Weiß ist am Zug.</translation>
+    </message>
+    <message>
+        <source>Black to move.</source>
+        <translation>Schwarz ist am Zug.</translation>
+    </message>
+    <message>
+        <source>White %1, black %2.</source>
+        <translation>Weiß %1, Schwarz %2.</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Brett</translation>
+    </message>
+    <message>
+        <source>*** THINKING ***</source>
+        <translation>*** DENKT NACH ***</translation>
+    </message>
+    <message>
+        <source>You Must Capture</source>
+        <translation>Schlagzwang</translation>
+    </message>
+    <message>
+        <source>Your Move</source>
+        <translation>Sie sind am Zug</translation>
+    </message>
+    <message>
+        <source>Game Over</source>
+        <translation>Spielende</translation>
+    </message>
+</context>
+<context>
+    <name>MainForm</name>
+    <message>
+        <source>tavlora v1.0.3</source>
+        <translation>tavlora v1.0.3</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>BREAK</source>
+        <translation>STOPP</translation>
+    </message>
+    <message>
+        <source>Force Move</source>
+        <translation>Computerzug</translation>
+    </message>
+    <message>
+        <source>NewGame</source>
+        <translation>Neues Spiel</translation>
+    </message>
+    <message>
+        <source> 12/12</source>
+        <translation> 12/12</translation>
+    </message>
+    <message>
+        <source>On Board</source>
+        <translation>Auf dem Brett</translation>
+    </message>
+    <message>
+        <source>**** THINKING ****</source>
+        <translation>*** DENKT NACH ***</translation>
+    </message>
+    <message>
+        <source>One move back</source>
+        <translation>Einen Zug zurück</translation>
+    </message>
+    <message>
+        <source>One move forward</source>
+        <translation>Einen Zug vor</translation>
+    </message>
+    <message>
+        <source>Plays the best move found so far; so does the Escape key.</source>
+        <translation>Spielt den besten bisher gefundenen Zug; die Escape-Taste tut das auch.</translation>
+    </message>
+    <message>
+        <source>Lets the computer move for the side to move.</source>
+        <translation>Lässt den Computer für die Seite ziehen, die am Zug ist.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>fabout</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Tavlora v 1.0.3</source>
+        <translation>Tavlora v 1.0.3</translation>
+    </message>
+    <message>
+        <source>A king and a man on the board</source>
+        <translation>Eine Dame und ein Stein auf dem Brett</translation>
+    </message>
+    <message>
+        <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
+        <translation>Ein Damespiel für eine Person, für zwei oder keine. Regeln, Suche und Zeichnungen vom Tavlora-Projekt; Fenster und Bildaufbau von Qt.</translation>
+    </message>
+</context>
+<context>
+    <name>formStat</name>
+    <message>
+        <source>statistic</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Moves</source>
+        <translation>Züge</translation>
+    </message>
+    <message>
+        <source>MaxLevel</source>
+        <translation>Tiefe</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>fsettings</name>
+    <message>
+        <source>settings</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Give Away</source>
+        <translation>Schlagdame</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>International</translation>
+    </message>
+    <message>
+        <source>American</source>
+        <translation>Amerikanisch</translation>
+    </message>
+    <message>
+        <source>Polish Traditional</source>
+        <translation>Polnisch traditionell</translation>
+    </message>
+    <message>
+        <source>game rules</source>
+        <translation>Spielregeln</translation>
+    </message>
+    <message>
+        <source>Board Size</source>
+        <translation>Brett</translation>
+    </message>
+    <message>
+        <source>6 for fun</source>
+        <translation>6 zum Spaß</translation>
+    </message>
+    <message>
+        <source>8 checkers,brazylian</source>
+        <translation>8 Checkers, brasilianisch</translation>
+    </message>
+    <message>
+        <source>10 international</source>
+        <translation>10 international</translation>
+    </message>
+    <message>
+        <source>12 canadian</source>
+        <translation>12 kanadisch</translation>
+    </message>
+    <message>
+        <source>board size</source>
+        <translation>Brettgröße</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Easy 1</source>
+        <translation>Leicht 1</translation>
+    </message>
+    <message>
+        <source>Easy 2</source>
+        <translation>Leicht 2</translation>
+    </message>
+    <message>
+        <source>2 sec/move</source>
+        <translation>2 s/Zug</translation>
+    </message>
+    <message>
+        <source>5 sec/move</source>
+        <translation>5 s/Zug</translation>
+    </message>
+    <message>
+        <source>10 sec/move</source>
+        <translation>10 s/Zug</translation>
+    </message>
+    <message>
+        <source>20 sec/move</source>
+        <translation>20 s/Zug</translation>
+    </message>
+    <message>
+        <source>1 min/move</source>
+        <translation>1 min/Zug</translation>
+    </message>
+    <message>
+        <source>infinite (until break)</source>
+        <translation>unbegrenzt (bis STOPP)</translation>
+    </message>
+    <message>
+        <source>thinking level</source>
+        <translation>Spielstufe</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Human-Computer</source>
+        <translation>Mensch-Computer</translation>
+    </message>
+    <message>
+        <source>Human-Human</source>
+        <translation>Mensch-Mensch</translation>
+    </message>
+    <message>
+        <source>Computer-Computer</source>
+        <translation>Computer-Computer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,294 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl">
+<context>
+    <name>Draughts</name>
+    <message>
+        <source>White men: %1.</source>
+        <translation>Witte schijven: %1.</translation>
+    </message>
+    <message>
+        <source>White kings: %1.</source>
+        <translation>Witte dammen: %1.</translation>
+    </message>
+    <message>
+        <source>Black men: %1.</source>
+        <translation>Zwarte schijven: %1.</translation>
+    </message>
+    <message>
+        <source>Black kings: %1.</source>
+        <translation>Zwarte dammen: %1.</translation>
+    </message>
+    <message>
+        <source>White to move.</source>
+        <translation>Wit is aan zet.</translation>
+    </message>
+    <message>
+        <source>Black to move.</source>
+        <translation>Zwart is aan zet.</translation>
+    </message>
+    <message>
+        <source>White %1, black %2.</source>
+        <translation>Wit %1, zwart %2.</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Bord</translation>
+    </message>
+    <message>
+        <source>*** THINKING ***</source>
+        <translation>*** DENKT NA ***</translation>
+    </message>
+    <message>
+        <source>You Must Capture</source>
+        <translation>Slaan is verplicht</translation>
+    </message>
+    <message>
+        <source>Your Move</source>
+        <translation>U bent aan zet</translation>
+    </message>
+    <message>
+        <source>Game Over</source>
+        <translation>Einde van de partij</translation>
+    </message>
+</context>
+<context>
+    <name>MainForm</name>
+    <message>
+        <source>tavlora v1.0.3</source>
+        <translation>tavlora v1.0.3</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>BREAK</source>
+        <translation>STOP</translation>
+    </message>
+    <message>
+        <source>Force Move</source>
+        <translation>Computerzet</translation>
+    </message>
+    <message>
+        <source>NewGame</source>
+        <translation>Nieuw spel</translation>
+    </message>
+    <message>
+        <source> 12/12</source>
+        <translation> 12/12</translation>
+    </message>
+    <message>
+        <source>On Board</source>
+        <translation>Op het bord</translation>
+    </message>
+    <message>
+        <source>**** THINKING ****</source>
+        <translation>*** DENKT NA ***</translation>
+    </message>
+    <message>
+        <source>One move back</source>
+        <translation>Eén zet terug</translation>
+    </message>
+    <message>
+        <source>One move forward</source>
+        <translation>Eén zet vooruit</translation>
+    </message>
+    <message>
+        <source>Plays the best move found so far; so does the Escape key.</source>
+        <translation>Speelt de beste zet die tot nu toe gevonden is; de Escape-toets doet dat ook.</translation>
+    </message>
+    <message>
+        <source>Lets the computer move for the side to move.</source>
+        <translation>Laat de computer zetten voor de kleur die aan zet is.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>fabout</name>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>Tavlora v 1.0.3</source>
+        <translation>Tavlora v 1.0.3</translation>
+    </message>
+    <message>
+        <source>A king and a man on the board</source>
+        <translation>Een dam en een schijf op het bord</translation>
+    </message>
+    <message>
+        <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
+        <translation>Een damspel voor één, twee of geen spelers. Regels, zoekwerk en tekeningen van het Tavlora-project; vensters en weergave van Qt.</translation>
+    </message>
+</context>
+<context>
+    <name>formStat</name>
+    <message>
+        <source>statistic</source>
+        <translation>statistiek</translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <translation>Scores</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>tijd</translation>
+    </message>
+    <message>
+        <source>Moves</source>
+        <translation>Zetten</translation>
+    </message>
+    <message>
+        <source>MaxLevel</source>
+        <translation>Diepte</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knopen</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Score</translation>
+    </message>
+</context>
+<context>
+    <name>fsettings</name>
+    <message>
+        <source>settings</source>
+        <translation>opties</translation>
+    </message>
+    <message>
+        <source>Give Away</source>
+        <translation>Weggeefdammen</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regels</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>Internationaal</translation>
+    </message>
+    <message>
+        <source>American</source>
+        <translation>Amerikaans</translation>
+    </message>
+    <message>
+        <source>Polish Traditional</source>
+        <translation>Traditioneel Pools</translation>
+    </message>
+    <message>
+        <source>game rules</source>
+        <translation>spelregels</translation>
+    </message>
+    <message>
+        <source>Board Size</source>
+        <translation>Bord</translation>
+    </message>
+    <message>
+        <source>6 for fun</source>
+        <translation>6 voor de lol</translation>
+    </message>
+    <message>
+        <source>8 checkers,brazylian</source>
+        <translation>8 checkers, Braziliaans</translation>
+    </message>
+    <message>
+        <source>10 international</source>
+        <translation>10 internationaal</translation>
+    </message>
+    <message>
+        <source>12 canadian</source>
+        <translation>12 Canadees</translation>
+    </message>
+    <message>
+        <source>board size</source>
+        <translation>bordgrootte</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>niveau</translation>
+    </message>
+    <message>
+        <source>Easy 1</source>
+        <translation>Makkelijk 1</translation>
+    </message>
+    <message>
+        <source>Easy 2</source>
+        <translation>Makkelijk 2</translation>
+    </message>
+    <message>
+        <source>2 sec/move</source>
+        <translation>2 s/zet</translation>
+    </message>
+    <message>
+        <source>5 sec/move</source>
+        <translation>5 s/zet</translation>
+    </message>
+    <message>
+        <source>10 sec/move</source>
+        <translation>10 s/zet</translation>
+    </message>
+    <message>
+        <source>20 sec/move</source>
+        <translation>20 s/zet</translation>
+    </message>
+    <message>
+        <source>1 min/move</source>
+        <translation>1 min/zet</translation>
+    </message>
+    <message>
+        <source>infinite (until break)</source>
+        <translation>onbeperkt (tot STOP)</translation>
+    </message>
+    <message>
+        <source>thinking level</source>
+        <translation>denkniveau</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spelers</translation>
+    </message>
+    <message>
+        <source>Human-Computer</source>
+        <translation>Mens-Computer</translation>
+    </message>
+    <message>
+        <source>Human-Human</source>
+        <translation>Mens-Mens</translation>
+    </message>
+    <message>
+        <source>Computer-Computer</source>
+        <translation>Computer-Computer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,294 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl">
+<context>
+    <name>Draughts</name>
+    <message>
+        <source>White men: %1.</source>
+        <translation>Białe pionki: %1.</translation>
+    </message>
+    <message>
+        <source>White kings: %1.</source>
+        <translation>Białe damki: %1.</translation>
+    </message>
+    <message>
+        <source>Black men: %1.</source>
+        <translation>Czarne pionki: %1.</translation>
+    </message>
+    <message>
+        <source>Black kings: %1.</source>
+        <translation>Czarne damki: %1.</translation>
+    </message>
+    <message>
+        <source>White to move.</source>
+        <translation>Ruch białych.</translation>
+    </message>
+    <message>
+        <source>Black to move.</source>
+        <translation>Ruch czarnych.</translation>
+    </message>
+    <message>
+        <source>White %1, black %2.</source>
+        <translation>Białe %1, czarne %2.</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Plansza</translation>
+    </message>
+    <message>
+        <source>*** THINKING ***</source>
+        <translation>*** MYŚLĘ ***</translation>
+    </message>
+    <message>
+        <source>You Must Capture</source>
+        <translation>Bicie obowiązkowe</translation>
+    </message>
+    <message>
+        <source>Your Move</source>
+        <translation>Twój ruch</translation>
+    </message>
+    <message>
+        <source>Game Over</source>
+        <translation>Koniec gry</translation>
+    </message>
+</context>
+<context>
+    <name>MainForm</name>
+    <message>
+        <source>tavlora v1.0.3</source>
+        <translation>tavlora v1.0.3</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O grze</translation>
+    </message>
+    <message>
+        <source>BREAK</source>
+        <translation>STOP</translation>
+    </message>
+    <message>
+        <source>Force Move</source>
+        <translation>Wymuś ruch</translation>
+    </message>
+    <message>
+        <source>NewGame</source>
+        <translation>Nowa gra</translation>
+    </message>
+    <message>
+        <source> 12/12</source>
+        <translation> 12/12</translation>
+    </message>
+    <message>
+        <source>On Board</source>
+        <translation>Na planszy</translation>
+    </message>
+    <message>
+        <source>**** THINKING ****</source>
+        <translation>*** MYŚLĘ ***</translation>
+    </message>
+    <message>
+        <source>One move back</source>
+        <translation>Ruch wstecz</translation>
+    </message>
+    <message>
+        <source>One move forward</source>
+        <translation>Ruch naprzód</translation>
+    </message>
+    <message>
+        <source>Plays the best move found so far; so does the Escape key.</source>
+        <translation>Wykonuje najlepszy dotąd znaleziony ruch; klawisz Escape robi to samo.</translation>
+    </message>
+    <message>
+        <source>Lets the computer move for the side to move.</source>
+        <translation>Komputer wykonuje ruch za stronę, na którą przypada kolej.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>fabout</name>
+    <message>
+        <source>About</source>
+        <translation>O grze</translation>
+    </message>
+    <message>
+        <source>Tavlora v 1.0.3</source>
+        <translation>Tavlora v 1.0.3</translation>
+    </message>
+    <message>
+        <source>A king and a man on the board</source>
+        <translation>Damka i pionek na planszy</translation>
+    </message>
+    <message>
+        <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
+        <translation>Warcaby dla jednego gracza, dla dwóch albo żadnego. Zasady, wyszukiwanie i rysunki: projekt Tavlora; okna i grafika: Qt.</translation>
+    </message>
+</context>
+<context>
+    <name>formStat</name>
+    <message>
+        <source>statistic</source>
+        <translation>statystyka</translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <translation>Oceny</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>czas</translation>
+    </message>
+    <message>
+        <source>Moves</source>
+        <translation>Ruchy</translation>
+    </message>
+    <message>
+        <source>MaxLevel</source>
+        <translation>Głębokość</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Węzły</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Ocena</translation>
+    </message>
+</context>
+<context>
+    <name>fsettings</name>
+    <message>
+        <source>settings</source>
+        <translation>opcje</translation>
+    </message>
+    <message>
+        <source>Give Away</source>
+        <translation>Antywarcaby</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Zasady</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>Międzynarodowe</translation>
+    </message>
+    <message>
+        <source>American</source>
+        <translation>Amerykańskie</translation>
+    </message>
+    <message>
+        <source>Polish Traditional</source>
+        <translation>Polskie tradycyjne</translation>
+    </message>
+    <message>
+        <source>game rules</source>
+        <translation>zasady gry</translation>
+    </message>
+    <message>
+        <source>Board Size</source>
+        <translation>Plansza</translation>
+    </message>
+    <message>
+        <source>6 for fun</source>
+        <translation>6 dla zabawy</translation>
+    </message>
+    <message>
+        <source>8 checkers,brazylian</source>
+        <translation>8 checkers, brazylijskie</translation>
+    </message>
+    <message>
+        <source>10 international</source>
+        <translation>10 międzynarodowe</translation>
+    </message>
+    <message>
+        <source>12 canadian</source>
+        <translation>12 kanadyjskie</translation>
+    </message>
+    <message>
+        <source>board size</source>
+        <translation>rozmiar planszy</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>poziom</translation>
+    </message>
+    <message>
+        <source>Easy 1</source>
+        <translation>Łatwy 1</translation>
+    </message>
+    <message>
+        <source>Easy 2</source>
+        <translation>Łatwy 2</translation>
+    </message>
+    <message>
+        <source>2 sec/move</source>
+        <translation>2 s/ruch</translation>
+    </message>
+    <message>
+        <source>5 sec/move</source>
+        <translation>5 s/ruch</translation>
+    </message>
+    <message>
+        <source>10 sec/move</source>
+        <translation>10 s/ruch</translation>
+    </message>
+    <message>
+        <source>20 sec/move</source>
+        <translation>20 s/ruch</translation>
+    </message>
+    <message>
+        <source>1 min/move</source>
+        <translation>1 min/ruch</translation>
+    </message>
+    <message>
+        <source>infinite (until break)</source>
+        <translation>bez limitu (do STOP)</translation>
+    </message>
+    <message>
+        <source>thinking level</source>
+        <translation>poziom gry</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Gracze</translation>
+    </message>
+    <message>
+        <source>Human-Computer</source>
+        <translation>Człowiek-Komputer</translation>
+    </message>
+    <message>
+        <source>Human-Human</source>
+        <translation>Człowiek-Człowiek</translation>
+    </message>
+    <message>
+        <source>Computer-Computer</source>
+        <translation>Komputer-Komputer</translation>
+    </message>
+</context>
+</TS>
