@@ -149,7 +149,7 @@
     <name>formStat</name>
     <message>
         <source>statistic</source>
-        <translation>statistiek</translation>
+        <translation>Statistiek</translation>
     </message>
     <message>
         <source>Scores</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>time</source>
-        <translation>tijd</translation>
+        <translation>Tijd</translation>
     </message>
     <message>
         <source>Moves</source>
@@ -184,7 +184,7 @@
     <name>fsettings</name>
     <message>
         <source>settings</source>
-        <translation>opties</translation>
+        <translation>Opties</translation>
     </message>
     <message>
         <source>Give Away</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>level</source>
-        <translation>niveau</translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Easy 1</source>

@@ -149,7 +149,7 @@
     <name>formStat</name>
     <message>
         <source>statistic</source>
-        <translation>statystyka</translation>
+        <translation>Statystyka</translation>
     </message>
     <message>
         <source>Scores</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>time</source>
-        <translation>czas</translation>
+        <translation>Czas</translation>
     </message>
     <message>
         <source>Moves</source>
@@ -184,7 +184,7 @@
     <name>fsettings</name>
     <message>
         <source>settings</source>
-        <translation>opcje</translation>
+        <translation>Opcje</translation>
     </message>
     <message>
         <source>Give Away</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>level</source>
-        <translation>poziom</translation>
+        <translation>Poziom</translation>
     </message>
     <message>
         <source>Easy 1</source>
