@@ -167,6 +167,7 @@ private:
     bool isComputersTurn() const;
 
     // Turn flow.
+    void describeBoard();
     LegalMove *searchMove();
     void showThinking();
     void lockControls();

@@ -31,7 +31,7 @@ void Draughts::DoPlayerMove() {
     int black = 0;
     pBoard->countPieces(white, black);
     labelScore->setText(QStringLiteral("%1/%2").arg(white).arg(black));
-    pView->setAccessibleDescription(boardDescription(*pBoard));
+    describeBoard();
     if (pBoard->whiteToMove)
         testPieces();
     if (isComputersTurn())
@@ -39,6 +39,13 @@ void Draughts::DoPlayerMove() {
     else
         waitUser();
     --nestLevel;
+}
+
+// The toolkit announces every setting, also of what is there already.
+void Draughts::describeBoard() {
+    const QString description = boardDescription(*pBoard);
+    if (pView->accessibleDescription() != description)
+        pView->setAccessibleDescription(description);
 }
 
 bool Draughts::isComputersTurn() const {

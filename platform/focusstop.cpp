@@ -1,12 +1,12 @@
 #include "platform/focusstop.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFocusFrame>
 #include <QKeyEvent>
-
-#include <utility>
 
 namespace {
 
@@ -36,12 +36,30 @@ public:
                                     : QAccessibleWidget::relations(match);
     }
     void *interface_cast(QAccessible::InterfaceType type) override {
-        return chooser() != nullptr ? chooser()->interface_cast(type) : nullptr;
+        return chooser() == nullptr || type == QAccessible::ActionInterface
+                   ? QAccessibleWidget::interface_cast(type)
+                   : chooser()->interface_cast(type);
+    }
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (chooserActions() != nullptr)
+            names << chooserActions()->actionNames();
+        return names;
+    }
+    void doAction(const QString &name) override {
+        if (name == setFocusAction())
+            QAccessibleWidget::doAction(name);
+        else if (chooserActions() != nullptr)
+            chooserActions()->doAction(name);
     }
 
 private:
     QAccessibleInterface *chooser() const {
         return QAccessible::queryAccessibleInterface(stop->chooser());
+    }
+
+    QAccessibleActionInterface *chooserActions() const {
+        return chooser() != nullptr ? chooser()->actionInterface() : nullptr;
     }
 
     FocusStop *stop;
@@ -67,6 +85,7 @@ FocusStop::FocusStop(QWidget *chooser, QWidget *parent) : QWidget(parent), stood
     chooser->installEventFilter(this);
     connect(chooser, &QObject::destroyed, this, &QObject::deleteLater);
     followChooser();
+    passOnChanges();
 }
 
 FocusStop::~FocusStop() {
@@ -89,17 +108,14 @@ void FocusStop::handOver(QKeyEvent *event) {
     }
     QCoreApplication::sendEvent(stoodFor, event);
     event->accept();
-    announceChange();
 }
 
-// Also when the chooser's list closes.
 void FocusStop::focusInEvent(QFocusEvent *event) {
     QWidget::focusInEvent(event);
     if (frame.isNull() && !stoodFor.isNull()) {
         frame = new QFocusFrame(this);
         frame->setWidget(stoodFor);
     }
-    announceChange();
 }
 
 void FocusStop::focusOutEvent(QFocusEvent *event) {
@@ -126,22 +142,20 @@ void FocusStop::followChooser() {
     setVisible(!stoodFor->isHidden());
 }
 
-// The chooser announces its changes for itself; whoever follows the focus listens here.
-void FocusStop::announceChange() {
-    const QAccessibleInterface *chooser =
-        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(stoodFor) : nullptr;
-    if (chooser == nullptr)
-        return;
-    const QString value = chooser->text(QAccessible::Name);
-    if (value != std::exchange(announcedValue, value)) {
-        QAccessibleEvent change(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&change);
-    }
-    const bool checked = chooser->state().checked;
-    if (checked != std::exchange(announcedCheck, checked)) {
-        QAccessible::State changed;
-        changed.checked = true;
-        QAccessibleStateChangeEvent change(this, changed);
-        QAccessible::updateAccessibility(&change);
+// The chooser announces its changes as its own; whoever follows the focus listens here. A list's
+// choice is its name, as with the toolkit's combo boxes.
+void FocusStop::passOnChanges() {
+    if (const auto *list = qobject_cast<const QComboBox *>(stoodFor)) {
+        connect(list, &QComboBox::currentTextChanged, this, [this] {
+            QAccessibleEvent change(this, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&change);
+        });
+    } else if (const auto *button = qobject_cast<const QAbstractButton *>(stoodFor)) {
+        connect(button, &QAbstractButton::toggled, this, [this] {
+            QAccessible::State changed;
+            changed.checked = true;
+            QAccessibleStateChangeEvent change(this, changed);
+            QAccessible::updateAccessibility(&change);
+        });
     }
 }

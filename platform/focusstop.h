@@ -33,12 +33,10 @@ protected:
 private:
     void handOver(QKeyEvent *event);
     void followChooser();
-    void announceChange();
+    void passOnChanges();
 
     QPointer<QWidget> stoodFor;
     QPointer<QFocusFrame> frame; // while there is the focus
-    QString announcedValue;
-    bool announcedCheck = false;
 };
 
 #endif

@@ -122,9 +122,13 @@ TEST_F(AccessibilityTest, SettingsAreChosenByKeyboardAlone) {
     const auto choose = [](formsettings &dialog, Key american) {
         keys(dialog, {american, Key_Tab, Key_F4, Key_Up, Key_Return, Key_Tab, Key_Home, Key_Down,
                       Key_Tab, Key_Down, Key_Tab, Key_Space});
-        EXPECT_EQ(textOf(QApplication::focusWidget(), QAccessible::Name), "Give Away");
-        EXPECT_TRUE(
-            QAccessible::queryAccessibleInterface(QApplication::focusWidget())->state().checked);
+        QAccessibleInterface *stop =
+            QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+        EXPECT_EQ(stop->text(QAccessible::Name), "Give Away");
+        EXPECT_TRUE(stop->state().checked);
+        stop->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        EXPECT_FALSE(dialog.giveAway);
+        stop->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         for (const QWidget *chooser :
              {static_cast<QWidget *>(dialog.cmbRules), static_cast<QWidget *>(dialog.cmbSize),
               static_cast<QWidget *>(dialog.cmbLevel), static_cast<QWidget *>(dialog.chGiveAway)})
