@@ -54,7 +54,7 @@ void hashTable::clear() {
 }
 
 unsigned int hashTable::HKey(const board *b) const {
-    return b->HKey() % static_cast<unsigned int>(size);
+    return size > 0 ? b->HKey() % static_cast<unsigned int>(size) : 0;
 }
 
 bool hashTable::areEqual(const board *a, const board *b) {

@@ -30,7 +30,7 @@ public:
 
     // Frees every slot; the stored positions are not touched.
     void clear();
-    // The first slot of a position's probe path: its key modulo the size.
+    // The first slot of a position's probe path: its key modulo the size; 0 without slots.
     unsigned int HKey(const board *b) const;
     static bool areEqual(const board *a, const board *b);
     // 1 and the position's slot when it is stored; 0 and the first free slot on its probe path when

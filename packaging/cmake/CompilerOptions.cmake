@@ -11,6 +11,16 @@ if(DRAUGHTS_SANITIZE)
     target_link_options(draughts_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# The targets themselves are linked with -fsanitize=fuzzer, see tools/fuzz.
+if(DRAUGHTS_FUZZ)
+    target_compile_options(draughts_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+if(DRAUGHTS_COVERAGE)
+    target_compile_options(draughts_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(draughts_options INTERFACE --coverage)
+endif()
+
 # The search counts and scans bit sets: on x86 the instructions for that are not in the base set.
 # A program that is built where it runs may use what this processor has; the level is a named one
 # (not "native") so that a profile or a memory checker understands every instruction of it. A program

@@ -2,6 +2,7 @@
 
 #include "tools/common/commandline.h"
 #include "tools/common/positionline.h"
+#include "tools/perft/options.h"
 #include "tools/perft/perft.h"
 
 #include <QCommandLineParser>
@@ -15,45 +16,6 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-constexpr int defaultDepth = 6;
-constexpr int mostDepth = 30;
-
-struct Options {
-    RuleSet rules = RuleSet::International;
-    int depth = defaultDepth;
-    bool divide = false;
-    bool leavesOnly = false;
-    bool distinct = false;
-};
-
-void describe(QCommandLineParser &parser) {
-    parser.setApplicationDescription(
-        "Counts the positions of a move tree by depth, from the start position of a board or from "
-        "a "
-        "position line (size, ply, key, score, horizon, squares), given as the argument or, for "
-        "\"-\", on standard input, where there may be several. Every route of a capture counts.");
-    parser.addOption({{"r", "rules"},
-                      "international (the default), american or polish.",
-                      "rules",
-                      "international"});
-    parser.addOption({{"s", "size"},
-                      "Start position of 6, 8, 10 (the default) or 12 squares a "
-                      "side.",
-                      "size",
-                      "10"});
-    parser.addOption({{"d", "depth"},
-                      QString("Count up to so many plies, 1 to %1.").arg(mostDepth),
-                      "plies",
-                      QString::number(defaultDepth)});
-    parser.addOption({"divide", "Show the count of each first move, at the full depth only."});
-    parser.addOption({"distinct",
-                      "Count captures of a piece that take the same pieces and end on the "
-                      "same square once, whatever their routes."});
-    parser.addOption({"last", "Count at the full depth only."});
-    parser.addPositionalArgument("position", "A position line, or - for standard input.",
-                                 "[position]");
-}
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
@@ -89,7 +51,7 @@ void printCount(QTextStream &out, int depth, quint64 positions, double seconds) 
         << Qt::flush;
 }
 
-void countTree(const board &position, const Options &options) {
+void countTree(const board &position, const PerftOptions &options) {
     QTextStream out(stdout);
     ProgressLine progress;
     Perft perft(options.rules, position);
@@ -114,33 +76,7 @@ void countTree(const board &position, const Options &options) {
     }
 }
 
-QString readOptions(const QCommandLineParser &parser, Options &options) {
-    const std::optional<RuleSet> rules = ruleSetOf(parser.value("rules"));
-    if (!rules.has_value())
-        return QString("unknown rules \"%1\"").arg(parser.value("rules"));
-    options.rules = *rules;
-    options.depth = parser.value("depth").toInt();
-    if (options.depth < 1 || options.depth > mostDepth) {
-        return QString("the depth must be 1 to %1, not \"%2\"")
-            .arg(mostDepth)
-            .arg(parser.value("depth"));
-    }
-    options.divide = parser.isSet("divide");
-    options.distinct = parser.isSet("distinct");
-    options.leavesOnly = parser.isSet("last");
-    return {};
-}
-
-int countStart(const QString &sizeText, const Options &options) {
-    const int size = sizeText.toInt();
-    if (std::find(std::begin(allBoardSizes), std::end(allBoardSizes), size) ==
-        std::end(allBoardSizes))
-        return fail(QString("the size must be 6, 8, 10 or 12, not \"%1\"").arg(sizeText));
-    countTree(board(size), options);
-    return 0;
-}
-
-int countLine(const QString &line, const Options &options) {
+int countLine(const QString &line, const PerftOptions &options) {
     QString error;
     const std::optional<board> position = readPositionLine(line, error);
     if (!position.has_value())
@@ -149,7 +85,7 @@ int countLine(const QString &line, const Options &options) {
     return 0;
 }
 
-int countStandardInput(const Options &options) {
+int countStandardInput(const PerftOptions &options) {
     QTextStream in(stdin);
     int lines = 0;
     while (!in.atEnd()) {
@@ -168,18 +104,14 @@ int countStandardInput(const Options &options) {
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
-    describe(parser);
+    describePerft(parser);
     if (const std::optional<int> status = parseCommandLine(parser))
         return *status;
-    Options options;
-    if (const QString wrong = readOptions(parser, options); !wrong.isEmpty())
+    PerftOptions options;
+    if (const QString wrong = readPerftOptions(parser, options); !wrong.isEmpty())
         return fail(wrong);
-    const QStringList positions = parser.positionalArguments();
-    if (positions.isEmpty())
-        return countStart(parser.value("size"), options);
-    if (parser.isSet("size"))
-        return fail("a position has its own size; leave --size out");
-    if (positions.size() == 1 && positions.first() == "-")
+    if (options.standardInput)
         return countStandardInput(options);
-    return countLine(positions.join(' '), options);
+    countTree(options.position, options);
+    return 0;
 }

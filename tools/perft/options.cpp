@@ -1,0 +1,78 @@
+#include "tools/perft/options.h"
+
+#include "tools/common/positionline.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int defaultDepth = 6;
+constexpr int mostDepth = 30;
+
+QString readPosition(const QCommandLineParser &parser, PerftOptions &options) {
+    const QStringList positions = parser.positionalArguments();
+    const QString sizeText = parser.value("size");
+    if (positions.isEmpty()) {
+        const int size = sizeText.toInt();
+        if (std::find(std::begin(allBoardSizes), std::end(allBoardSizes), size) ==
+            std::end(allBoardSizes))
+            return QString("the size must be 6, 8, 10 or 12, not \"%1\"").arg(sizeText);
+        options.position = board(size);
+        return {};
+    }
+    if (parser.isSet("size"))
+        return "a position has its own size; leave --size out";
+    options.standardInput = positions.size() == 1 && positions.first() == "-";
+    if (options.standardInput)
+        return {};
+    QString error;
+    options.position = readPositionLine(positions.join(' '), error).value_or(board());
+    return error;
+}
+
+} // namespace
+
+void describePerft(QCommandLineParser &parser) {
+    parser.setApplicationDescription(
+        "Counts the positions of a move tree by depth, from the start position of a board or from "
+        "a position line (size, ply, key, score, horizon, squares), given as the argument or, for "
+        "\"-\", on standard input, where there may be several. Every route of a capture counts.");
+    parser.addOption({{"r", "rules"},
+                      "international (the default), american or polish.",
+                      "rules",
+                      "international"});
+    parser.addOption({{"s", "size"},
+                      "Start position of 6, 8, 10 (the default) or 12 squares a side.",
+                      "size",
+                      "10"});
+    parser.addOption({{"d", "depth"},
+                      QString("Count up to so many plies, 1 to %1.").arg(mostDepth),
+                      "plies",
+                      QString::number(defaultDepth)});
+    parser.addOption({"divide", "Show the count of each first move, at the full depth only."});
+    parser.addOption({"distinct",
+                      "Count captures of a piece that take the same pieces and end on the "
+                      "same square once, whatever their routes."});
+    parser.addOption({"last", "Count at the full depth only."});
+    parser.addPositionalArgument("position", "A position line, or - for standard input.",
+                                 "[position]");
+}
+
+QString readPerftOptions(const QCommandLineParser &parser, PerftOptions &options) {
+    const std::optional<RuleSet> rules = ruleSetOf(parser.value("rules"));
+    if (!rules.has_value())
+        return QString("unknown rules \"%1\"").arg(parser.value("rules"));
+    options.rules = *rules;
+    options.depth = parser.value("depth").toInt();
+    if (options.depth < 1 || options.depth > mostDepth) {
+        return QString("the depth must be 1 to %1, not \"%2\"")
+            .arg(mostDepth)
+            .arg(parser.value("depth"));
+    }
+    options.divide = parser.isSet("divide");
+    options.distinct = parser.isSet("distinct");
+    options.leavesOnly = parser.isSet("last");
+    return readPosition(parser, options);
+}
