@@ -49,18 +49,17 @@ public:
     void setReqDepth(int plies);
     int getReqDepth() const { return reqDepth; }
 
+    // What the time control may plan with for one move, in ms: the requested time and half of the
+    // credit, 0.7 to 4 times the requested time. Negative when a depth is requested.
+    qint64 budgetMs() const;
     // Clock reading, in ms, at which an iteration one ply deeper is expected to end; `moves` as in
     // stop(). Reads lastIterationMs and prevIterationMs, sets `growth`.
     int Estimate(int moves);
-    // Notes the end of an iteration; true when the next one is expected to end within the budget,
-    // which lies between 0.7 and 4 times the requested time depending on the credit.
+    // Notes the end of an iteration; true when the next one is expected to end within the budget.
     bool canTry(int moves);
 
     // Adds to a counter, stopping at the largest int.
     static void count(int &counter, qint64 more);
-
-private:
-    qint64 budgetMs() const;
 };
 
 #endif
