@@ -5,6 +5,7 @@
 
 #include "rules/amengine.h"
 #include "tests/support/enginerig.h"
+#include "tests/support/twinagreement.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +48,8 @@ TEST(CaptureLimit, TwentyFiveJumpsAreDroppedWithOneBoxAtTheEnd) {
         EXPECT_EQ(rig.host.boxes.size(), 2U) << "24 jumps are no more than allowed";
         EXPECT_EQ(longest(rig.engine->moveList), 24U);
         EXPECT_EQ(rig.engine->moveList.first().to(), XY(8, 8));
+        rig.host.onBox = nullptr;
+        EXPECT_EQ(twinDifferences(c.rules, lattice(c.piece), false), "");
     }
     EngineRig whole(RuleSet::International, lattice(whiteMan));
     whole.statistic.setReqDepth(1);

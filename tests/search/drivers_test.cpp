@@ -1,5 +1,6 @@
 // Searches as a whole: what they find, and when and how they end.
 
+#include "search/deepsearch.h"
 #include "tests/support/enginerig.h"
 #include "tests/support/plaintwin.h"
 #include "tools/bench/benchrun.h"
@@ -107,6 +108,7 @@ TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
 TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
     for (const RuleSet rules : allRuleSets) {
         for (const int mode : allModes) {
+            DeepSearch::enable(mode != timed); // over engines it is the same
             EngineRig rig(rules, "w .b.b.b.b.b b.b.b.b.b. .b.w.b.w.b w.w.b.w.w. ...b.b.w.B "
                                  "W.b.w.w... .b.b.w.b.b w.b.w.b.w. .w.w.w.w.w w.w.w.w.w.");
             request(rig, mode, 8);
@@ -117,6 +119,7 @@ TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
             EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 30);
         }
     }
+    DeepSearch::enable(true);
 }
 
 // Trees small enough for paper. American kings: 1910 off the centre, 1920 in it, 1815 on a side.

@@ -1,11 +1,21 @@
 #include "search/hashtable.h"
 
 #include "search/score.h"
+#include "tests/support/recordinghost.h"
 
 #include <QString>
 #include <QTextStream>
 
 #include <gtest/gtest.h>
+
+#include <new>
+
+static bool outOfMemory = false;
+
+// What the table allocates its arrays with.
+void *operator new[](std::size_t bytes, const std::nothrow_t &) noexcept {
+    return outOfMemory ? nullptr : ::operator new[](bytes);
+}
 
 namespace {
 
@@ -40,9 +50,6 @@ TEST(HashTable, ProbesQuadraticallyAndGivesUpAfterEleven) {
     table.clear();
     EXPECT_EQ(table.count, 0);
     EXPECT_EQ(table.find(&b, idx), 0);
-    table.Tscore.reset(); // as if there had not been the memory
-    EXPECT_EQ(table.find(&b, idx), -1);
-    EXPECT_EQ(table.insert(&b) + table.insert(&b, 3), 0);
 }
 
 TEST(HashTable, RecordsAndTheirReplacement) {
@@ -82,6 +89,32 @@ QString dumpOf(const hashTable &table) {
     EXPECT_EQ(table.toStream(stream), 1);
     stream.flush();
     return text;
+}
+
+// For want of memory or of slots: it says so, and stores nothing.
+TEST(HashTable, WithoutRoom) {
+    for (const int entries : {0, 11}) {
+        RecordingHost host;
+        outOfMemory = entries > 0;
+        hashTable table(entries);
+        outOfMemory = false;
+        std::vector<RecordingHost::Box> boxes;
+        for (const char *array : {"Tboards", "Tscore", "Tempty"})
+            boxes.push_back(
+                {BoxKind::Information, "hashTable ", QString("can NOT alloc ") + array});
+        EXPECT_TRUE(host.boxes == (entries > 0 ? boxes : std::vector<RecordingHost::Box>()));
+        board b = withRecord(board(6), 50, 4);
+        unsigned idx = 9;
+        EXPECT_EQ(table.find(&b, idx), -1);
+        EXPECT_EQ(table.insert(&b) + table.insert(&b, 3), 0);
+        QString line;
+        QTextStream stream(&line);
+        b.toStream(stream);
+        stream.seek(0);
+        EXPECT_EQ(table.fromStream(stream, 6), 0);
+        EXPECT_EQ(table.count, 0);
+        EXPECT_EQ(dumpOf(table), QString("%1 0\n").arg(entries));
+    }
 }
 
 TEST(HashTable, DumpAndReload) {

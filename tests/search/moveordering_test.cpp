@@ -39,7 +39,8 @@ TEST(MoveOrdering, Reductions) {
                                {{-500, -400, 999950}, {0, 0, 0}},
                                {{-1000000, -999999, -999950}, {0, 0, 0}},
                                {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
-                               {{-1000000, -999, -600, 0}, {5, 7, 4, 0}}};
+                               {{-1000000, -999, -600, 0}, {5, 7, 4, 0}},
+                               {{}, {}}};
     for (const auto &[sorted, reductions] : cases) {
         QValueList<LegalMove> list = moves(sorted);
         AbstractEngine::depthUpdate(&list);
@@ -64,6 +65,16 @@ TEST(MoveOrdering, BonusForSeveralGoodMoves) {
         rig.engine->updatePoints(s);
         EXPECT_EQ(s.value, result);
     }
+}
+
+// The second bound is the other side's.
+TEST(MoveOrdering, Windows) {
+    constexpr int none = Score::none;
+    constexpr int cases[][4] = {{0, none, none, false}, {5, 5, none, true},  {6, 5, none, false},
+                                {4, none, -5, false},   {5, none, -5, true}, {5, 4, -6, false},
+                                {4, 4, -6, true},       {6, 4, -6, true}};
+    for (const auto &[v, alpha, beta, outside] : cases)
+        EXPECT_EQ(AbstractEngine::outsideRange(v, Score(alpha, 0), Score(beta, 0)), outside) << v;
 }
 
 TEST(MoveOrdering, Favourites) {

@@ -62,6 +62,8 @@ TEST(ThinkStatistic, TheEndOfAMove) {
         t.stop(moves);
         EXPECT_EQ(t.timeCredit, after) << usedMs << " of " << seconds << " s";
         EXPECT_EQ(t.movesPerMs, 9500 / (usedMs + 50));
+        t.setReqDepth(0); // no depth: the request stays
+        EXPECT_TRUE(t.getReqTime() == seconds && t.timeCredit == after);
     }
 }
 
