@@ -4,6 +4,7 @@
 
 #include "rules/bitposition.h"
 #include "rules/capturelimit.h"
+#include "rules/listingwatch.h"
 #include "rules/movestack.h"
 
 #include <type_traits>
@@ -200,6 +201,8 @@ private:
     }
 
     void manSequences(Stack &stack, Bits at, Bits taken, int level) {
+        if (ListingWatch::countJump())
+            return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.manCapture);
             return;
@@ -210,6 +213,8 @@ private:
     }
 
     void shortKingSequences(Stack &stack, Bits at, Bits taken, int level) {
+        if (ListingWatch::countJump())
+            return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.kingCapture);
             return;
@@ -222,6 +227,8 @@ private:
     // A flying king may land on any free square behind the piece it jumps; squares from which it
     // can go on exclude the others.
     bool flyingSequences(Stack &stack, int at, Bits taken, int level) {
+        if (ListingWatch::countJump())
+            return true;
         bool found = false;
         const Bits blockers = Squares::all & ~landing_;
         const Bits victims = enemy_ & ~taken;

@@ -117,6 +117,8 @@ void IntEngine::genCapManMove(XY pos, ::board *b, int level, LegalMove *m) {
 }
 
 bool IntEngine::genCapKingMove(XY pos, ::board *b, int level, LegalMove *m) {
+    if (ListingWatch::countJump())
+        return true;
     bool found = false;
     for (const XY &step : jmpInter) {
         XY over = pos + step;

@@ -3,6 +3,7 @@
 #define RULES_INTENGINE_H
 
 #include "rules/capturelimit.h"
+#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 
 #include <initializer_list>
@@ -65,6 +66,8 @@ bool IntEngine::shortJumps(XY pos, const ::board &b, int level, LegalMove *m,
                            std::initializer_list<int> directions, const char *operation,
                            Next next) {
     const CaptureLimitScope report;
+    if (ListingWatch::countJump())
+        return true;
     if (level > maxCaptureLevel) {
         CaptureLimitScope::exceeded(operation);
         return false;

@@ -2,6 +2,7 @@
 
 #include "eval/heuristic.h"
 #include "rules/capturelimit.h"
+#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 #include "search/deepsearch.h"
 #include "search/enginenode.h"
@@ -22,14 +23,23 @@ namespace {
 // The tree dump processes events more often than the search: writing is slow.
 constexpr int dumpsBetweenEvents = 20;
 
+// Asked during long listings.
+bool searchGoesOn() {
+    host().processEvents();
+    return !AbstractEngine::breakThinking;
+}
+
 } // namespace
 
 LegalMove *AbstractEngine::getBestMove(int level, Score &result, Score alpha, Score beta,
                                        BestLine &line, bool trace) {
     const CaptureLimitScope report;
     std::optional<DeepSearchScope> deep;
-    if (level == 0)
+    std::optional<ListingWatch> watch;
+    if (level == 0) {
         deep.emplace(*this);
+        watch.emplace(&searchGoesOn);
+    }
     EngineNode node(*this, trace);
     const int best = NodeProcedure<EngineNode>(node, level).run(result, alpha, beta, line);
     return best < 0 ? nullptr : &moveList[best];

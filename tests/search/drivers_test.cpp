@@ -93,6 +93,21 @@ TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
     EXPECT_EQ(AbstractEngine::eventLoop, 200 - (counted - 1) % 201);
 }
 
+// Black's kings can take in so many orders that one listing lasts for a second.
+TEST(Drivers, LongListingsLookUpAndGiveUp) {
+    for (const RuleSet rules : {RuleSet::International, RuleSet::Polish}) {
+        EngineRig rig(rules, "w ...........B B........... .w.w.w.w.w.. ............ .w.w.w.w.w.. "
+                             "............ .w.w...w.w.. ............ .w.w.w.w.w.. ............ "
+                             ".w.w.w.w.w.. B.........B.");
+        request(rig, unlimited);
+        rig.host.onEvents = [&] { AbstractEngine::breakThinking = rig.host.eventRounds >= 20; };
+        rig.search();
+        EXPECT_LT(rig.statistic.nodes, 201);
+        EXPECT_EQ(rig.host.eventRounds, 20);
+        EXPECT_EQ(rig.engine->getMoveList()->count(), 47);
+    }
+}
+
 // White takes three kings or one; with few pieces a favourite needs five plies.
 TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
     EngineRig rig(RuleSet::American,

@@ -140,3 +140,27 @@ void XDisplay::close(xcb_window_t window) {
                    reinterpret_cast<const char *>(&event));
     xcb_flush(m_connection.get());
 }
+
+xcb_window_t XDisplay::cover(xcb_window_t window) {
+    xcb_connection_t *connection = m_connection.get();
+    const auto area =
+        owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    const auto place = owned(xcb_translate_coordinates_reply(
+        connection, xcb_translate_coordinates(connection, window, m_root, 0, 0), nullptr));
+    if (!area || !place) {
+        return 0;
+    }
+    const uint32_t values[] = {0, 1}; // background, override redirect
+    const xcb_window_t cover = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, cover, m_root, place->dst_x, place->dst_y,
+                      area->width, area->height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                      XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
+    xcb_map_window(connection, cover);
+    xcb_flush(connection);
+    return cover;
+}
+
+void XDisplay::remove(xcb_window_t cover) {
+    xcb_destroy_window(m_connection.get(), cover);
+    xcb_flush(m_connection.get());
+}

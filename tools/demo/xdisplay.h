@@ -31,6 +31,10 @@ public:
     void tap(xcb_window_t window, QPoint point, PointerButton button = PointerButton::Left);
     // Asks the window to close, as the close button of a title bar does.
     void close(xcb_window_t window);
+    // Puts a black window of no window manager's on top of the window, over all of it; remove()
+    // takes it away again.
+    xcb_window_t cover(xcb_window_t window);
+    void remove(xcb_window_t cover);
 
 private:
     bool isVisible(xcb_window_t window) const;
