@@ -4,14 +4,13 @@
 
 namespace {
 
-// About a millisecond with engines, some microseconds with bit sets.
-constexpr int jumpsBetweenQuestions = 1000;
-
 ListingWatch::Question question = nullptr;
 
 } // namespace
 
-ListingWatch::ListingWatch(Question wanted) : outer_(std::exchange(question, wanted)) {}
+ListingWatch::ListingWatch(Question wanted) : outer_(std::exchange(question, wanted)) {
+    restart();
+}
 
 ListingWatch::~ListingWatch() {
     question = outer_;
@@ -19,7 +18,7 @@ ListingWatch::~ListingWatch() {
 }
 
 void ListingWatch::ask() {
-    jumpsLeft = jumpsBetweenQuestions;
+    restart();
     if (question != nullptr && !givenUp)
         givenUp = !question();
 }

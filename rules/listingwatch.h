@@ -3,10 +3,10 @@
 #define RULES_LISTINGWATCH_H
 
 // Flying kings on a board full of prey can take in so many orders that the listing of one position
-// lasts for seconds. While a scope of this class lives, every so many jumps of all listings
-// together call `wanted`; when it answers false the running listing and all that follow in the
-// scope end at the next jump, with a part of the moves. For a search that is broken off, then, and
-// will not use them. Without a scope every listing is completed.
+// lasts for seconds. While a scope of this class lives, `wanted` is called after so many jumps of
+// all listings together; when it answers false the running listing and all that follow in the scope
+// end at the next jump, with a part of the moves. For a search that is broken off, then, and will
+// not use them. Without a scope every listing is completed.
 class ListingWatch {
 public:
     using Question = bool (*)();
@@ -22,8 +22,14 @@ public:
             ask();
         return givenUp;
     }
+    // The search has looked up by itself: counts from the beginning.
+    static void restart() { jumpsLeft = jumpsBetweenQuestions; }
 
 private:
+    // A few milliseconds with engines, a fraction of one with bit sets; in ordinary positions more
+    // than the search lists between two looks of its own.
+    static constexpr int jumpsBetweenQuestions = 4000;
+
     static void ask();
 
     inline static int jumpsLeft = 0;

@@ -3,6 +3,7 @@
 #define SEARCH_EVENTPUMP_H
 
 #include "platform/host.h"
+#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 
 // The countdown's restart value: events are processed once every 201 nodes.
@@ -18,6 +19,7 @@ inline void pumpEvents(int restart) {
     if (--AbstractEngine::eventLoop >= 0)
         return;
     host().processEvents();
+    ListingWatch::restart();
     AbstractEngine::eventLoop = restart;
 }
 

@@ -104,6 +104,8 @@ private:
             searchMove(i, childBudget, value, alpha, beta, childLine);
             if (value.isNone()) {
                 node_.setScore(i, Score::none);
+                if (AbstractEngine::breakThinking)
+                    return -1; // nor is any other child searched: not worth setting them up
                 continue;
             }
             value.neg();

@@ -102,7 +102,7 @@ TEST(Drivers, LongListingsLookUpAndGiveUp) {
         request(rig, unlimited);
         rig.host.onEvents = [&] { AbstractEngine::breakThinking = rig.host.eventRounds >= 20; };
         rig.search();
-        EXPECT_LT(rig.statistic.nodes, 201);
+        EXPECT_LT(rig.statistic.nodes, 10 * 201) << "half of the looks come from listings";
         EXPECT_EQ(rig.host.eventRounds, 20);
         EXPECT_EQ(rig.engine->getMoveList()->count(), 47);
     }

@@ -76,6 +76,10 @@ bool Referee::eventFilter(QObject *watched, QEvent *event) {
     case QEvent::KeyRelease:
         watchButton(watched, event);
         break;
+    case QEvent::Shortcut:
+        if (window_ != nullptr && watched->parent() == window_->btnBreak)
+            noteClick(Button::Break);
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         watchBoard(watched, event);
@@ -100,13 +104,16 @@ void Referee::watchButton(QObject *watched, QEvent *event) {
                                  ? mouse->button() == Qt::LeftButton &&
                                        widget.rect().contains(mouse->position().toPoint())
                                  : key->key() == Qt::Key_Space;
-        if (!clicked)
-            return;
-        journal_.note(QString("clicks ") + nameOf(button));
-        tally_.breaks += button == Button::Break;
-        model_.click(button);
+        if (clicked)
+            noteClick(button);
         return;
     }
+}
+
+void Referee::noteClick(Button button) {
+    journal_.note(QString("clicks ") + nameOf(button));
+    tally_.breaks += button == Button::Break;
+    model_.click(button);
 }
 
 void Referee::watchBoard(QObject *watched, const QEvent *event) {

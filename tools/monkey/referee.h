@@ -62,6 +62,7 @@ protected:
 private:
     void follow();
     void watchButton(QObject *watched, QEvent *event);
+    void noteClick(Button button);
     void watchBoard(QObject *watched, const QEvent *event);
     void fail(const QString &fault);
 
