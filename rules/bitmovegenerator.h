@@ -201,7 +201,7 @@ private:
     }
 
     void manSequences(Stack &stack, Bits at, Bits taken, int level) {
-        if (ListingWatch::countJump())
+        if (level > 1 && ListingWatch::countJump())
             return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.manCapture);
@@ -213,7 +213,7 @@ private:
     }
 
     void shortKingSequences(Stack &stack, Bits at, Bits taken, int level) {
-        if (ListingWatch::countJump())
+        if (level > 1 && ListingWatch::countJump())
             return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.kingCapture);
@@ -227,7 +227,7 @@ private:
     // A flying king may land on any free square behind the piece it jumps; squares from which it
     // can go on exclude the others.
     bool flyingSequences(Stack &stack, int at, Bits taken, int level) {
-        if (ListingWatch::countJump())
+        if (level > 1 && ListingWatch::countJump())
             return true;
         bool found = false;
         const Bits blockers = Squares::all & ~landing_;

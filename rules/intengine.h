@@ -66,7 +66,7 @@ bool IntEngine::shortJumps(XY pos, const ::board &b, int level, LegalMove *m,
                            std::initializer_list<int> directions, const char *operation,
                            Next next) {
     const CaptureLimitScope report;
-    if (ListingWatch::countJump())
+    if (level > 1 && ListingWatch::countJump())
         return true;
     if (level > maxCaptureLevel) {
         CaptureLimitScope::exceeded(operation);
