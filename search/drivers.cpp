@@ -101,8 +101,8 @@ bool AbstractEngine::atLevelLimit() const {
     return depth / ply >= levelLimit;
 }
 
-// The move of the last completed iteration; without one, or when that named none (`last` is null and
-// nothing broke it off), the first of the list.
+// The move of the last completed iteration; without one, or when that named none (`last` is null
+// and nothing broke it off), the first of the list.
 template <class Saved>
 LegalMove *AbstractEngine::finishDriver(Saved &saved, const LegalMove *last) {
     if (last == nullptr && !breakThinking)

@@ -6,6 +6,7 @@
 #include "search/eventpump.h"
 #include "search/hashtable.h"
 #include "search/movesort.h"
+#include "search/nodeprocedure.h"
 #include "search/thinkstatistic.h"
 
 #include <algorithm>
@@ -71,6 +72,8 @@ void EngineNode::enter(int i, int childBudget) {
     childBudget_ = childBudget - std::max(m.reduction, 0);
     if (deep_ != nullptr)
         deep_->enter(*engine_.board, m);
+    else if (AbstractEngine::breakThinking && m.subEngine == nullptr)
+        enterInPassing(m);
     else
         enterEngine(m);
 }
@@ -85,10 +88,19 @@ void EngineNode::enterEngine(LegalMove &m) {
     m.subEngine->depth = childBudget_;
 }
 
+// A search that is broken off only asks the table for what it has not searched yet. On the way out
+// of a long listing an engine and a board of its own for every move would take a while.
+void EngineNode::enterInPassing(const LegalMove &m) {
+    passed_.emplace(engine_.board);
+    engine_.makeMove(&*passed_, &m);
+}
+
 bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
     if (deep_ != nullptr)
         return deep_->probe(beta, alpha, value);
     board *child = engine_.moveList[i].subBoard;
+    if (child == nullptr)
+        child = &*passed_;
     if (trace_)
         childKey_ = child->HKey();
     if (!engine_.canUseHT(child, beta, alpha))
@@ -100,10 +112,13 @@ bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
 
 void EngineNode::search(int i, int level, Score &value, const Score &alpha, const Score &beta,
                         BestLine &line) {
+    AbstractEngine *child = engine_.moveList[i].subEngine;
     if (deep_ != nullptr)
         deep_->search(level, childBudget_, value, alpha, beta, line);
+    else if (child != nullptr)
+        child->getBestMove(level, value, alpha, beta, line, false);
     else
-        engine_.moveList[i].subEngine->getBestMove(level, value, alpha, beta, line, false);
+        NodeProcedure<EngineNode>::breakOff(level, value, line);
 }
 
 void EngineNode::leave(int i, int level) {

@@ -3,7 +3,10 @@
 #define SEARCH_ENGINENODE_H
 
 #include "search/abstractengine.h"
+#include "rules/board.h"
 #include "search/bestline.h"
+
+#include <optional>
 
 class DeepSearch;
 
@@ -43,11 +46,13 @@ public:
 
 private:
     void enterEngine(LegalMove &m);
+    void enterInPassing(const LegalMove &m);
 
     AbstractEngine &engine_;
     const bool trace_;
     int level_ = 0;
-    DeepSearch *deep_ = nullptr; // searches the children, where that is not left to engines
+    DeepSearch *deep_ = nullptr;  // searches the children, where that is not left to engines
+    std::optional<board> passed_; // the child in a broken search, when it has no board of its own
     int childBudget_ = 0;
     unsigned int key_ = 0;
     unsigned int childKey_ = 0;

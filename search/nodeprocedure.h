@@ -52,7 +52,7 @@ public:
         reviveNone(alpha);
         reviveNone(beta);
         if (level_ > 0 && AbstractEngine::breakThinking) {
-            result.setNone(-1);
+            breakOff(level_, result, line);
             return -1;
         }
         const bool noMoves = node_.listMoves();
@@ -62,6 +62,12 @@ public:
             return -1;
         const int extension = node_.mustCapture() ? captureExtension : 0;
         return searchMoves(node_.budget() + extension, result, alpha, beta, line);
+    }
+
+    // What a node below the root answers once the search is broken off.
+    static void breakOff(int level, Score &result, Line &line) {
+        line.setTop(level);
+        result.setNone(-1);
     }
 
 private:
@@ -104,8 +110,6 @@ private:
             searchMove(i, childBudget, value, alpha, beta, childLine);
             if (value.isNone()) {
                 node_.setScore(i, Score::none);
-                if (AbstractEngine::breakThinking)
-                    return -1; // nor is any other child searched: not worth setting them up
                 continue;
             }
             value.neg();

@@ -105,6 +105,7 @@ TEST(Drivers, LongListingsLookUpAndGiveUp) {
         EXPECT_LT(rig.statistic.nodes, 2 + 201 * 19) << "listings have looked up, too";
         EXPECT_EQ(rig.host.eventRounds, 20);
         EXPECT_EQ(rig.engine->getMoveList()->count(), 46);
+        EXPECT_EQ(rig.engine->getLegalMove(0)->score, Score::none) << "nor was this one searched";
     }
 }
 
