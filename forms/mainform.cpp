@@ -75,7 +75,15 @@ void MainForm::addUpperRow() {
     btnAbout = addButton(this, "btnAbout", tr("About"));
     btnAbout->setGeometry(85, 235, 40, 22);
     btnAbout->setMaximumSize(40, unlimited);
+    addBreak();
 
+    btnForce = addButton(this, "btnForce", tr("Force Move"));
+    btnForce->setGeometry(130, 235, 60, 22);
+    btnForce->setMaximumSize(60, 22);
+    btnForce->setFlat(false);
+}
+
+void MainForm::addBreak() {
     // While it shows, the other buttons are disabled: with the focus on it, Space would press it.
     btnBreak = addButton(this, "btnBreak", tr("BREAK"));
     btnBreak->setGeometry(55, 235, 40, 22);
@@ -83,13 +91,9 @@ void MainForm::addUpperRow() {
     btnBreak->setEnabled(true);
     btnBreak->setFocusPolicy(Qt::NoFocus);
     // Not the button's own shortcut, which presses it for a tenth of a second first.
-    const auto *breakKey = new QShortcut(Qt::Key_Escape, btnBreak);
+    auto *breakKey = new QShortcut(Qt::Key_Escape, btnBreak);
+    breakKey->setAutoRepeat(false); // in the flight that follows it would count again
     connect(breakKey, &QShortcut::activated, btnBreak, &QPushButton::click);
-
-    btnForce = addButton(this, "btnForce", tr("Force Move"));
-    btnForce->setGeometry(130, 235, 60, 22);
-    btnForce->setMaximumSize(60, 22);
-    btnForce->setFlat(false);
 }
 
 void MainForm::addLowerRow() {

@@ -42,6 +42,7 @@ private:
     QPushButton *addButton(QWidget *owner, const char *name, const QString &text);
     void setUpWindow(const char *name);
     void addUpperRow();
+    void addBreak();
     void addLowerRow();
     void setFonts();
     void nameControls();

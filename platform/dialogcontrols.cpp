@@ -126,11 +126,11 @@ bool ControlRow::eventFilter(QObject *watched, QEvent *event) {
     return QDialogButtonBox::eventFilter(watched, event);
 }
 
-// Cancel does not become the default button when it gets the focus: Return always accepts.
+// Return presses the button that has the focus, OK when none has it.
 void ControlRow::addButtons(bool choice) {
     addButton(QDialogButtonBox::Ok)->setDefault(true);
     if (choice)
-        addButton(QDialogButtonBox::Cancel)->setAutoDefault(false);
+        addButton(QDialogButtonBox::Cancel)->setAutoDefault(true);
 }
 
 // A layout is told to keep off the row; without one the form stays where it is anyway. The limits

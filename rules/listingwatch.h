@@ -22,6 +22,8 @@ public:
             ask();
         return givenUp;
     }
+    // Whether listings of this scope have been given up.
+    static bool isGivenUp() { return givenUp; }
     // The search has looked up by itself: counts from the beginning.
     static void restart() { jumpsLeft = jumpsBetweenQuestions; }
 

@@ -2,6 +2,7 @@
 #ifndef SEARCH_NODEPROCEDURE_H
 #define SEARCH_NODEPROCEDURE_H
 
+#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 #include "search/movesort.h"
 #include "search/score.h"
@@ -56,6 +57,10 @@ public:
             return -1;
         }
         const bool noMoves = node_.listMoves();
+        if (ListingWatch::isGivenUp()) { // a part of the list says nothing
+            breakOff(level_, result, line);
+            return -1;
+        }
         node_.count(level_);
         result.setNone(horizon_);
         if (valuedUnsearched(noMoves, result, alpha, beta))
@@ -64,7 +69,7 @@ public:
         return searchMoves(node_.budget() + extension, result, alpha, beta, line);
     }
 
-    // What a node below the root answers once the search is broken off.
+    // What a node answers once the search is broken off.
     static void breakOff(int level, Score &result, Line &line) {
         line.setTop(level);
         result.setNone(-1);

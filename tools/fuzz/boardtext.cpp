@@ -7,6 +7,7 @@
 #include <QString>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -48,9 +49,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!isSame(b, again))
         reportFault(situation, "what was written reads differently");
 
-    // The same letters after other white space, from bytes instead of a string.
+    // Letters of one byte each read the same from bytes as from a string.
     board fromBytes(b.size);
     QTextStream stream(text);
     fromBytes.fromStream(stream);
+    const bool plainLetters = std::all_of(text.begin(), text.end(), [](char c) { return c > 0; });
+    if (plainLetters && !isSame(b, fromBytes))
+        reportFault(situation, "bytes read differently from a string");
     return 0;
 }

@@ -37,7 +37,7 @@ void Journal::fail(const QString &fault, const QString &expected) const {
         for (const QString &line : last_)
             out << line << '\n';
         out << "broken: " << fault << '\n' << "expected:\n" << expected;
-        out << "replay: tavlora-monkey --seed " << seed_ << " --events " << events_ << " --trace\n";
+        out << "replay: tavlora-monkey --seed " << seed_ << " --events " << limit_ << " --trace\n";
     }
     std::_Exit(1);
 }

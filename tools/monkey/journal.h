@@ -10,8 +10,8 @@
 // The events of one run. Its hash covers every line: runs with equal hashes went the same way.
 class Journal {
 public:
-    // With `trace` every line goes to standard output at once.
-    Journal(unsigned seed, bool trace) : seed_(seed), trace_(trace) {}
+    // For a run of `limit` events. With `trace` every line goes to standard output at once.
+    Journal(unsigned seed, int limit, bool trace) : seed_(seed), limit_(limit), trace_(trace) {}
 
     // A new event, in words.
     void event(const QString &what);
@@ -28,6 +28,7 @@ private:
     void add(const QString &line);
 
     unsigned seed_;
+    int limit_;
     bool trace_;
     int events_ = 0;
     std::uint64_t hash_ = 14695981039346656037U; // FNV-1a

@@ -91,7 +91,7 @@ bool playedEverything(const Tally &tally) {
 
 bool runSeed(unsigned seed, int events, bool twice, bool trace, Tally &tally) {
     complaints.clear();
-    const std::uint64_t hash = Monkey(seed, trace, tally).run(events);
+    const std::uint64_t hash = Monkey(seed, events, trace, tally).run();
     out() << "seed " << seed << ": " << events << " events, " << QString::number(hash, 16) << "\n";
     out().flush();
     Tally ignored;
@@ -99,7 +99,7 @@ bool runSeed(unsigned seed, int events, bool twice, bool trace, Tally &tally) {
         fail(QString("seed %1: the toolkit complains:\n%2").arg(seed).arg(complaints));
         return false;
     }
-    if (!twice || Monkey(seed, false, ignored).run(events) == hash)
+    if (!twice || Monkey(seed, events, false, ignored).run() == hash)
         return true;
     fail(QString("seed %1 went another way the second time").arg(seed));
     return false;

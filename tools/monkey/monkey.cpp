@@ -27,9 +27,9 @@ public:
 
 } // namespace
 
-Monkey::Monkey(unsigned seed, bool trace, Tally &tally)
-    : dice_(seed), journal_(seed, trace), referee_(journal_, tally),
-      user_(referee_, journal_, dice_), tally_(tally) {
+Monkey::Monkey(unsigned seed, int events, bool trace, Tally &tally)
+    : dice_(seed), journal_(seed, events, trace), referee_(journal_, tally),
+      user_(referee_, journal_, dice_), tally_(tally), limit_(events) {
     QFont font = QApplication::font();
     font.setPointSize(applicationPoints);
     font.setBold(false);
@@ -50,8 +50,7 @@ Monkey::Monkey(unsigned seed, bool trace, Tally &tally)
     };
 }
 
-std::uint64_t Monkey::run(int events) {
-    limit_ = events;
+std::uint64_t Monkey::run() {
     referee_.openWindow();
     while (!isOver()) {
         step();

@@ -15,11 +15,12 @@ class Monkey : public QObject {
     Q_OBJECT
 
 public:
-    Monkey(unsigned seed, bool trace, Tally &tally);
+    // For a run of so many events, one check after each. How a run goes depends on their number as
+    // well as on the seed: searches are broken off at the end.
+    Monkey(unsigned seed, int events, bool trace, Tally &tally);
 
-    // So many events, one check after each. Ends the program when one fails; otherwise the hash of
-    // all that happened.
-    std::uint64_t run(int events);
+    // Ends the program when a check fails; otherwise the hash of all that happened.
+    std::uint64_t run();
 
 protected:
     bool event(QEvent *event) override;
@@ -37,7 +38,7 @@ private:
     User user_;
     Tally &tally_;
     QPointer<QDialog> dialog_; // whose event loop runs
-    int limit_ = 0;
+    const int limit_;
     int rounds_ = 0;       // of events in the running search
     int roundsClosed_ = 0; // of those, after the window was closed
 };

@@ -2,44 +2,20 @@
 
 #include "app/choices.h"
 #include "rules/legalmove.h"
-#include "search/abstractengine.h"
-#include "search/thinkstatistic.h"
+#include "tests/support/plaintwin.h"
 
 #include <QStringList>
 
-#include <memory>
-#include <utility>
-
-namespace {
-
-// The process-wide board size, for as long as it lives. The game may not have come round to it yet.
-class SizeScope {
-public:
-    explicit SizeScope(int size) : before_(std::exchange(XY::B_SIZE, size)) {}
-    ~SizeScope() { XY::B_SIZE = before_; }
-    SizeScope(const SizeScope &) = delete;
-    SizeScope &operator=(const SizeScope &) = delete;
-
-private:
-    int before_;
-};
-
-} // namespace
 
 Move moveOf(const LegalMove &m) {
     return {{m.path.begin(), m.path.end()}, {m.taken.begin(), m.taken.end()}};
 }
 
 std::vector<Move> legalMoves(int rules, const board &position) {
-    const SizeScope size(position.size);
     board copy = position;
-    thinkStatistic statistic;
-    const std::unique_ptr<AbstractEngine> engine(
-        newEngine(rulesChoice(rules).value_or(fallbackRules), &copy, 1, &statistic, position.size));
-    engine->FillMoveList();
     std::vector<Move> moves;
-    for (const LegalMove &m : *engine->getMoveList())
-        moves.push_back(moveOf(m));
+    for (const plain::Move &m : plain::legalMoves(rulesChoice(rules).value_or(fallbackRules), copy))
+        moves.push_back({m.path, m.taken});
     return moves;
 }
 

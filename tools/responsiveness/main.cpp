@@ -70,13 +70,13 @@ void Measurement::thinking(const Scenario &scenario, int delay) {
     if (!run.windowAppears() || !run.told("thinks"))
         return add(scenario.name, 0, {});
     sleepMs(delay);
-    if (delay > 200)
-        add("uncovered: " + scenario.name, paintLimit, run.uncover(), true);
+    constexpr int coveredFrom = 200;
+    const std::optional<double> uncovered = delay > coveredFrom ? run.uncover() : std::nullopt;
     const std::optional<double> answered = run.pressBreak();
     add("BREAK: " + scenario.name, breakLimit, answered, true);
-    const std::optional<double> painted = run.told("painted");
-    if (painted && *painted >= 0)
-        add("repaint: " + scenario.name, paintLimit, painted);
+    if (delay > coveredFrom)
+        add("uncovered: " + scenario.name, paintLimit, uncovered, !answered);
+    add("repaint: " + scenario.name, paintLimit, run.told("painted"));
 }
 
 void Measurement::closingSubject(const Scenario &scenario, int delay) {

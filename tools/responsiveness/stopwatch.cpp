@@ -62,9 +62,9 @@ std::optional<double> Stopwatch::pressBreak() {
     const double pressed = nowMs();
     tap(breakButton);
     const std::optional<double> flies = told("flies");
-    if (!flies || *flies < pressed)
+    if (flies && *flies < pressed)
         return {};
-    return *flies - pressed;
+    return flies ? *flies - pressed : longMs;
 }
 
 std::optional<double> Stopwatch::uncover() {

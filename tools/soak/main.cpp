@@ -17,6 +17,10 @@ namespace {
 
 constexpr int mostOpeningPlies = 8;
 
+// An iteration that was expected to end in time is not cut off when it does not; twice the budget
+// is seen now and then.
+constexpr int mostPercentOfBudget = 500;
+
 // Game number `game`: rules change fastest, then sizes and aims, then levels.
 GameSetup setupFor(const SoakOptions &options, int game) {
     const auto turn = [&game](auto count) {
@@ -111,6 +115,8 @@ int measureTimes(const SoakOptions &options) {
             return fail(nameOf(setup, game) + ": " + outcome.fault);
     }
     times.print(out);
+    if (times.worstPercent() > mostPercentOfBudget)
+        return fail(QString("a move took %1 % of its budget").arg(times.worstPercent()));
     return 0;
 }
 

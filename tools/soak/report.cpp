@@ -68,9 +68,15 @@ void TimeTable::print(QTextStream &out) const {
     printDistribution(out, "used/requested, %", [](const Timed &t) {
         return qint64{100} * t.thought.usedMs / t.requestedMs;
     });
-    printDistribution(out, "used/budget, %",
-                      [](const Timed &t) { return 100 * t.thought.usedMs / t.thought.budgetMs; });
+    printDistribution(out, "used/budget, %", [](const Timed &t) { return t.percent(); });
     printDistribution(out, "depth, plies", [](const Timed &t) { return t.thought.depth; });
+}
+
+qint64 TimeTable::worstPercent() const {
+    qint64 worst = 0;
+    for (const Timed &t : thoughts_)
+        worst = std::max(worst, t.percent());
+    return worst;
 }
 
 template <class Figure>

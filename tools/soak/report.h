@@ -36,12 +36,15 @@ class TimeTable {
 public:
     void add(int requestedSeconds, const Thought &thought);
     void print(QTextStream &out) const;
+    // The most that a move took of its budget.
+    qint64 worstPercent() const;
     int count() const { return static_cast<int>(thoughts_.size()); }
 
 private:
     struct Timed {
         int requestedMs;
         Thought thought;
+        qint64 percent() const { return 100 * thought.usedMs / thought.budgetMs; }
     };
     // The figure of all moves at some percentages of them, in ascending order.
     template <class Figure>
