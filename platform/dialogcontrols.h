@@ -23,7 +23,8 @@ protected:
 };
 
 // The row itself, below the form: OK and Cancel where the form holds something to choose, OK alone
-// where it only shows something. Return accepts, Escape rejects. The dialog grows by the row's
+// where it only shows something. Return presses the button with the focus, else OK; Escape
+// rejects. The dialog grows by the row's
 // height, its size limits with it, and the form above keeps its geometry. Owned by the dialog.
 class ControlRow : public QDialogButtonBox {
     Q_OBJECT

@@ -10,8 +10,8 @@ class QFocusFrame;
 // A place in the tab order that stands for a chooser which takes no focus. Nothing of it is to be
 // seen; while it has the focus a frame is drawn round the chooser, and the keys go there, except
 // those that move on (Tab) or close the dialog (Return, Escape). The chooser acts on them as if it
-// had the focus and says so by its own signals. Assistive technology finds the chooser in its
-// place. Out of the tab order while the chooser is disabled or hidden, and gone with it.
+// had the focus and says so by its own signals. To assistive technology it has the chooser's role,
+// name and value, beside the chooser itself. Out of the tab order while the chooser is disabled or hidden, and gone with it.
 class FocusStop : public QWidget {
     Q_OBJECT
 

@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>BREAK</source>
@@ -130,7 +130,7 @@
     <name>fabout</name>
     <message>
         <source>About</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Tavlora v 1.0.3</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
-        <translation>Ein Damespiel für eine Person, für zwei oder keine. Regeln, Suche und Zeichnungen vom Tavlora-Projekt; Fenster und Bildaufbau von Qt.</translation>
+        <translation>Ein Damespiel für eine Person, für zwei oder keine. Regeln, Suche und Zeichnungen vom Tavlora-Projekt; Fenster und Darstellung von Qt.</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Game Over</source>
-        <translation>Einde van de partij</translation>
+        <translation>Einde van het spel</translation>
     </message>
 </context>
 <context>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Over</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>BREAK</source>
@@ -130,7 +130,7 @@
     <name>fabout</name>
     <message>
         <source>About</source>
-        <translation>Over</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Tavlora v 1.0.3</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
-        <translation>Een damspel voor één, twee of geen spelers. Regels, zoekwerk en tekeningen van het Tavlora-project; vensters en weergave van Qt.</translation>
+        <translation>Een damspel voor één, twee of geen spelers. Regels, zoekalgoritme en tekeningen van het Tavlora-project; vensters en weergave van Qt.</translation>
     </message>
 </context>
 <context>

@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>A game of draughts for one, two or no players. Rules, search and drawing by the Tavlora project; windows and painting by Qt.</source>
-        <translation>Warcaby dla jednego gracza, dla dwóch albo żadnego. Zasady, wyszukiwanie i rysunki: projekt Tavlora; okna i grafika: Qt.</translation>
+        <translation>Warcaby dla jednego gracza, dla dwóch albo bez graczy. Zasady, przeszukiwanie i rysunki: projekt Tavlora; okna i grafika: Qt.</translation>
     </message>
 </context>
 <context>

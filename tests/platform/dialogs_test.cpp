@@ -53,6 +53,10 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
     };
     const auto ok = [](QDialog &dialog) { button(dialog, Buttons::Ok)->click(); };
     const auto cancel = [](QDialog &dialog) { button(dialog, Buttons::Cancel)->click(); };
+    const auto returnOnCancel = [](QDialog &dialog) {
+        button(dialog, Buttons::Cancel)->setFocus();
+        QTest::keyClick(button(dialog, Buttons::Cancel), Qt::Key_Return);
+    };
     const struct {
         const char *way;
         std::function<bool()> show;
@@ -63,6 +67,7 @@ TEST(Dialogs, EveryWayOfAnsweringThem) {
         {"settings, Escape", choose, key(Qt::Key_Escape), false},
         {"settings, OK", choose, ok, true},
         {"settings, Cancel", choose, cancel, false},
+        {"settings, Return on Cancel", choose, returnOnCancel, false},
         {"settings, title bar", choose, [](QDialog &dialog) { dialog.close(); }, false},
         {"about, OK", credits, ok, true},
         {"box, Return", ask, key(Qt::Key_Return), true},
