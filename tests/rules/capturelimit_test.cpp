@@ -4,6 +4,7 @@
 // smallest has four jumps. With the piece on (9,9) gone the way ends on (8,8).
 
 #include "rules/amengine.h"
+#include "rules/bitmovegenerator.h"
 #include "tests/support/enginerig.h"
 #include "tests/support/twinagreement.h"
 
@@ -55,6 +56,42 @@ TEST(CaptureLimit, TwentyFiveJumpsAreDroppedWithOneBoxAtTheEnd) {
     whole.statistic.setReqDepth(1);
     whole.search();
     EXPECT_EQ(whole.host.boxes.size(), 1U) << "one box for a whole search";
+}
+
+template <const RuleTraits &Rules>
+std::size_t listedOnBits(const board &b) {
+    BitMoveGenerator<12, Rules, true> generator{BitPosition<12>(b)};
+    MoveStack<BitMove<12>> stack;
+    generator.canCapture();
+    generator.listCaptures(stack);
+    const std::size_t moves = stack.size();
+    stack.cut(0);
+    return moves;
+}
+
+// The whole listings have thousands of moves; a flying king's would take minutes.
+TEST(ListingWatch, AListingThatIsGivenUpEndsAtTheNextJump) {
+    static int questions;
+    const struct {
+        RuleSet rules;
+        unsigned char piece;
+        std::size_t (*onBits)(const board &);
+    } cases[] = {{RuleSet::Polish, whiteMan, listedOnBits<polishRules>},
+                 {RuleSet::American, whiteKing, listedOnBits<americanRules>},
+                 {RuleSet::Polish, whiteKing, listedOnBits<polishRules>}};
+    for (const auto &c : cases) {
+        EngineRig rig(c.rules, lattice(c.piece));
+        const CaptureLimitScope quiet;
+        const ListingWatch watch([] { return ++questions % 2 != 0; });
+        questions = 0;
+        rig.engine->FillMoveList();
+        EXPECT_EQ(questions, 2) << "asked once more after \"go on\"";
+        EXPECT_TRUE(ListingWatch::isGivenUp());
+        EXPECT_LT(rig.engine->moveList.count(), 8002);
+        EXPECT_LT(c.onBits(rig.position), 100U) << "given up for good";
+        EXPECT_EQ(questions, 2);
+    }
+    EXPECT_FALSE(ListingWatch::isGivenUp());
 }
 
 // A working record that has 25 jumps behind it already.
