@@ -106,8 +106,9 @@ private:
     static Bits passageMen(const Side &side) {
         Bits passage = 0;
         for (int layer = side.last; layer > 1; --layer) {
-            passage = (Squares::template forward<!White>(passage) |
-                       Squares::template promotionRow<White>)&side.layers[layer];
+            const Bits ways = Squares::template forward<!White>(passage) |
+                              Squares::template promotionRow<White>;
+            passage = ways & side.layers[layer];
         }
         return Squares::template forward<!White>(passage) & side.layers[1];
     }

@@ -24,8 +24,8 @@ protected:
 
 // The row itself, below the form: OK and Cancel where the form holds something to choose, OK alone
 // where it only shows something. Return presses the button with the focus, else OK; Escape
-// rejects. The dialog grows by the row's
-// height, its size limits with it, and the form above keeps its geometry. Owned by the dialog.
+// rejects. The dialog grows by the row's height, its size limits with it, and the form above keeps
+// its geometry. Owned by the dialog.
 class ControlRow : public QDialogButtonBox {
     Q_OBJECT
 

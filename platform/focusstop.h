@@ -11,7 +11,8 @@ class QFocusFrame;
 // seen; while it has the focus a frame is drawn round the chooser, and the keys go there, except
 // those that move on (Tab) or close the dialog (Return, Escape). The chooser acts on them as if it
 // had the focus and says so by its own signals. To assistive technology it has the chooser's role,
-// name and value, beside the chooser itself. Out of the tab order while the chooser is disabled or hidden, and gone with it.
+// name and value, beside the chooser itself. Out of the tab order while the chooser is disabled or
+// hidden, and gone with it.
 class FocusStop : public QWidget {
     Q_OBJECT
 

@@ -5,6 +5,7 @@
 #include "search/bestline.h"
 #include "search/nodeprocedure.h"
 #include "tests/support/plaintwin.h"
+#include "tools/common/tablefault.h"
 
 #include <QTextStream>
 
@@ -69,7 +70,7 @@ GameOutcome EngineGame::play(const Watch &watch) {
         ++table_.nextSeed;
     outcome.plies = position_.plyCount;
     if (outcome.fault.isEmpty())
-        outcome.fault = tableFault();
+        outcome.fault = tableFault(table_.table);
     if (!outcome.fault.isEmpty())
         outcome.fault += " at " + lineOf(position_);
     return outcome;
@@ -135,19 +136,4 @@ QString EngineGame::searchFault(const LegalMove *move) const {
     if (s.nodes < 1 || s.movesGenerated < list.count() || s.maxLevel > levelLimit)
         return "counters without sense";
     return {};
-}
-
-// Every stored position is found where it is, and they are as many as the table says.
-QString EngineGame::tableFault() const {
-    const hashTable &table = table_.table;
-    int occupied = 0;
-    for (int i = 0; i < table.size; ++i) {
-        if (table.Tempty[i])
-            continue;
-        ++occupied;
-        unsigned int slot = 0;
-        if (table.find(&table.Tboards[i], slot) != 1 || slot != static_cast<unsigned>(i))
-            return "a stored position is not found";
-    }
-    return occupied == table.count ? QString() : "the table's count is wrong";
 }

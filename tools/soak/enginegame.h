@@ -83,7 +83,6 @@ private:
     bool playOne(const Watch &watch, GameOutcome &outcome);
     QString playChecked(const LegalMove &move);
     QString searchFault(const LegalMove *move) const;
-    QString tableFault() const;
 
     SoakTable &table_;
     const GameSetup setup_;
