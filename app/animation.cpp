@@ -3,7 +3,7 @@
 #include "app/draughts.h"
 
 #include "app/gamehist.h"
-#include "platform/host.h"
+#include "base/host.h"
 #include "rules/board.h"
 #include "rules/legalmove.h"
 #include "view/boardmetrics.h"

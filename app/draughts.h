@@ -2,9 +2,9 @@
 #ifndef APP_DRAUGHTS_H
 #define APP_DRAUGHTS_H
 
+#include "base/qarray.h"
 #include "eval/squaresvalue.h"
 #include "forms/mainform.h"
-#include "platform/qarray.h"
 #include "rules/xy.h"
 
 #include <QPointer>

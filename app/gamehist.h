@@ -2,7 +2,7 @@
 #ifndef APP_GAMEHIST_H
 #define APP_GAMEHIST_H
 
-#include "platform/qvaluelist.h"
+#include "base/qvaluelist.h"
 #include "rules/board.h"
 
 #include <QObject>

@@ -4,8 +4,8 @@
 
 #include "app/choices.h"
 #include "app/gamehist.h"
+#include "base/host.h"
 #include "forms/formsettings.h"
-#include "platform/host.h"
 #include "rules/board.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"

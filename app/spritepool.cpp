@@ -2,7 +2,7 @@
 
 #include "app/draughts.h"
 
-#include "platform/host.h"
+#include "base/host.h"
 #include "rules/board.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"

@@ -2,7 +2,7 @@
 #ifndef PLATFORM_GUIHOST_H
 #define PLATFORM_GUIHOST_H
 
-#include "platform/host.h"
+#include "base/host.h"
 
 #include <QElapsedTimer>
 #include <QList>

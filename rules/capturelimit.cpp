@@ -1,6 +1,6 @@
 #include "rules/capturelimit.h"
 
-#include "platform/host.h"
+#include "base/host.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #ifndef RULES_LEGALMOVE_H
 #define RULES_LEGALMOVE_H
 
-#include "platform/qarray.h"
+#include "base/qarray.h"
 #include "rules/xy.h"
 
 #include <QString>

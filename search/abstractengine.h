@@ -2,7 +2,7 @@
 #ifndef SEARCH_ABSTRACTENGINE_H
 #define SEARCH_ABSTRACTENGINE_H
 
-#include "platform/qvaluelist.h"
+#include "base/qvaluelist.h"
 #include "rules/board.h"
 #include "rules/legalmove.h"
 #include "search/score.h"

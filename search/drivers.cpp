@@ -1,7 +1,7 @@
 // The drivers of the search: iterative deepening, one ply a time, within a time or to a depth.
 
+#include "base/host.h"
 #include "eval/squaresvalue.h"
-#include "platform/host.h"
 #include "rules/capturelimit.h"
 #include "search/abstractengine.h"
 #include "search/bestline.h"

@@ -1,7 +1,7 @@
 #include "search/enginenode.h"
 
+#include "base/host.h"
 #include "eval/heuristic.h"
-#include "platform/host.h"
 #include "search/deepsearch.h"
 #include "search/eventpump.h"
 #include "search/hashtable.h"

@@ -2,8 +2,8 @@
 #ifndef SEARCH_ENGINENODE_H
 #define SEARCH_ENGINENODE_H
 
-#include "search/abstractengine.h"
 #include "rules/board.h"
+#include "search/abstractengine.h"
 #include "search/bestline.h"
 
 #include <optional>

@@ -2,7 +2,7 @@
 #ifndef SEARCH_EVENTPUMP_H
 #define SEARCH_EVENTPUMP_H
 
-#include "platform/host.h"
+#include "base/host.h"
 #include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 

@@ -1,6 +1,6 @@
 #include "search/hashtable.h"
 
-#include "platform/host.h"
+#include "base/host.h"
 #include "search/score.h"
 
 #include <QIODevice>

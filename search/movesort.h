@@ -2,7 +2,7 @@
 #ifndef SEARCH_MOVESORT_H
 #define SEARCH_MOVESORT_H
 
-#include "platform/qvaluelist.h"
+#include "base/qvaluelist.h"
 #include "search/score.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #ifndef SEARCH_THINKSTATISTIC_H
 #define SEARCH_THINKSTATISTIC_H
 
-#include "platform/elapsedtime.h"
+#include "base/elapsedtime.h"
 
 // The playing level's request, the counters of the last search and the time control. One object,
 // owned by the game and shared by all its engines. The counters stop at the largest int.

@@ -1,6 +1,6 @@
 #include "view/drcanvaspiece.h"
 
-#include "platform/host.h"
+#include "base/host.h"
 #include "rules/board.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"

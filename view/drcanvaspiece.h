@@ -2,7 +2,7 @@
 #ifndef VIEW_DRCANVASPIECE_H
 #define VIEW_DRCANVASPIECE_H
 
-#include "platform/qarray.h"
+#include "base/qarray.h"
 #include "platform/qcanvasitem.h"
 #include "rules/xy.h"
 

@@ -1,5 +1,5 @@
-#include "platform/qarray.h"
-#include "platform/qvaluelist.h"
+#include "base/qarray.h"
+#include "base/qvaluelist.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 // (10,10), so every sequence ends on (10,10), and what one leaves over are closed circuits. The
 // smallest has four jumps. With the piece on (9,9) gone the way ends on (8,8).
 
+#include "bits/bitmovegenerator.h"
 #include "rules/amengine.h"
-#include "rules/bitmovegenerator.h"
 #include "tests/support/enginerig.h"
 #include "tests/support/twinagreement.h"
 

@@ -1,7 +1,7 @@
 // What a game does not reach: the dumps, engines of a class of one's own, boards of other sizes,
 // and a node's tests one by one.
 
-#include "rules/bitposition.h"
+#include "bits/bitposition.h"
 #include "search/deepsearch.h"
 #include "tests/support/enginerig.h"
 

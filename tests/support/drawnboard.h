@@ -2,7 +2,7 @@
 #ifndef TESTS_SUPPORT_DRAWNBOARD_H
 #define TESTS_SUPPORT_DRAWNBOARD_H
 
-#include "platform/qvaluelist.h"
+#include "base/qvaluelist.h"
 #include "rules/board.h"
 #include "rules/legalmove.h"
 

@@ -2,7 +2,7 @@
 #ifndef TESTS_SUPPORT_RECORDINGHOST_H
 #define TESTS_SUPPORT_RECORDINGHOST_H
 
-#include "platform/host.h"
+#include "base/host.h"
 
 #include <functional>
 #include <vector>

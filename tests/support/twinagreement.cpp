@@ -1,9 +1,9 @@
 #include "tests/support/twinagreement.h"
 
-#include "eval/bitanalysis.h"
-#include "eval/bitmaterial.h"
+#include "bits/bitanalysis.h"
+#include "bits/bitmaterial.h"
+#include "bits/bitmovegenerator.h"
 #include "eval/heuristic.h"
-#include "rules/bitmovegenerator.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
 #include "tests/support/drawnboard.h"

@@ -1,9 +1,9 @@
 // Fuzzes the hash table's reload, and a search with the reloaded table in force.
 
 #include "eval/squaresvalue.h"
+#include "search/abstractengine.h"
 #include "search/bestline.h"
 #include "search/hashtable.h"
-#include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
 #include "tests/support/recordinghost.h"
 #include "tools/common/tablefault.h"

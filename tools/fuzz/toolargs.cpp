@@ -1,7 +1,7 @@
 // Fuzzes what users give the tools: arguments, position lines, lists of bench tasks. Each is either
 // refused with a message or gives options and positions that the tools can work with.
 
-#include "rules/bitposition.h"
+#include "bits/bitposition.h"
 #include "tools/bench/benchrun.h"
 #include "tools/bench/options.h"
 #include "tools/common/positionline.h"

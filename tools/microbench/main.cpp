@@ -1,12 +1,12 @@
 // microbench: the parts of the search one by one, over bit sets and over engines.
 
-#include "eval/bitanalysis.h"
-#include "eval/bitmaterial.h"
+#include "bits/bitanalysis.h"
+#include "bits/bitmaterial.h"
+#include "bits/bitmovegenerator.h"
+#include "bits/bittable.h"
 #include "eval/heuristic.h"
 #include "eval/squaresvalue.h"
-#include "rules/bitmovegenerator.h"
 #include "rules/intengine.h"
-#include "search/bittable.h"
 #include "search/hashtable.h"
 #include "search/thinkstatistic.h"
 #include "tools/bench/benchrun.h"

@@ -1,7 +1,7 @@
 #include "tools/perft/perft.h"
 
-#include "rules/bitmovegenerator.h"
-#include "rules/bitposition.h"
+#include "bits/bitmovegenerator.h"
+#include "bits/bitposition.h"
 #include "rules/intengine.h"
 #include "rules/legalmove.h"
 #include "search/hashtable.h"

@@ -3,8 +3,8 @@
 #define TOOLS_SOAK_ENGINEGAME_H
 
 #include "app/choices.h"
+#include "base/host.h"
 #include "eval/squaresvalue.h"
-#include "platform/host.h"
 #include "search/hashtable.h"
 #include "search/thinkstatistic.h"
 

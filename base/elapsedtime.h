@@ -1,8 +1,8 @@
 // ElapsedTime: a stopwatch on the host's clock.
-#ifndef PLATFORM_ELAPSEDTIME_H
-#define PLATFORM_ELAPSEDTIME_H
+#ifndef BASE_ELAPSEDTIME_H
+#define BASE_ELAPSEDTIME_H
 
-#include "platform/host.h"
+#include "base/host.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,8 +1,8 @@
 // BitAnalysis: the position analysis on bit sets.
-#ifndef EVAL_BITANALYSIS_H
-#define EVAL_BITANALYSIS_H
+#ifndef BITS_BITANALYSIS_H
+#define BITS_BITANALYSIS_H
 
-#include "rules/bitposition.h"
+#include "bits/bitposition.h"
 
 #include <algorithm>
 

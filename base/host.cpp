@@ -1,4 +1,4 @@
-#include "platform/host.h"
+#include "base/host.h"
 
 #include <QTextStream>
 

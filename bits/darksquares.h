@@ -1,6 +1,6 @@
 // DarkSquares: the bit sets of board squares that the search's deep levels compute with.
-#ifndef RULES_DARKSQUARES_H
-#define RULES_DARKSQUARES_H
+#ifndef BITS_DARKSQUARES_H
+#define BITS_DARKSQUARES_H
 
 #include "rules/xy.h"
 

@@ -1,8 +1,8 @@
 // BitLine: the principal variation below the levels that engines hang on.
-#ifndef SEARCH_BITLINE_H
-#define SEARCH_BITLINE_H
+#ifndef BITS_BITLINE_H
+#define BITS_BITLINE_H
 
-#include "rules/darksquares.h"
+#include "bits/darksquares.h"
 #include "search/bestline.h"
 
 #include <algorithm>

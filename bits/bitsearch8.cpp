@@ -1,3 +1,3 @@
-#include "search/bitsearch.h"
+#include "bits/bitsearch.h"
 
 template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, thinkStatistic &);

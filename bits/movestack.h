@@ -1,6 +1,6 @@
 // MoveStack: the move lists of a line of nodes, one above the other.
-#ifndef RULES_MOVESTACK_H
-#define RULES_MOVESTACK_H
+#ifndef BITS_MOVESTACK_H
+#define BITS_MOVESTACK_H
 
 #include <algorithm>
 #include <cstddef>

@@ -1,8 +1,8 @@
 #include "search/deepsearch.h"
 
+#include "bits/bitsearch.h"
 #include "eval/squaresvalue.h"
 #include "rules/amengine.h"
-#include "search/bitsearch.h"
 
 #include <typeinfo>
 

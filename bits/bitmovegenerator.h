@@ -1,11 +1,11 @@
 // BitMoveGenerator: moves of a bit position, in the order and number of the rule engines'.
-#ifndef RULES_BITMOVEGENERATOR_H
-#define RULES_BITMOVEGENERATOR_H
+#ifndef BITS_BITMOVEGENERATOR_H
+#define BITS_BITMOVEGENERATOR_H
 
-#include "rules/bitposition.h"
+#include "bits/bitposition.h"
+#include "bits/movestack.h"
 #include "rules/capturelimit.h"
 #include "rules/listingwatch.h"
-#include "rules/movestack.h"
 
 #include <type_traits>
 

@@ -1,9 +1,9 @@
 // BitPosition: a position as bit sets of its pieces.
-#ifndef RULES_BITPOSITION_H
-#define RULES_BITPOSITION_H
+#ifndef BITS_BITPOSITION_H
+#define BITS_BITPOSITION_H
 
+#include "bits/darksquares.h"
 #include "rules/board.h"
-#include "rules/darksquares.h"
 
 // A move between bit positions. It fits a quarter of a cache line (12 x 12: half of one).
 template <int N>

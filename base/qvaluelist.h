@@ -1,6 +1,6 @@
 // QValueList<T>: the toolkit's list of values, with stable element addresses.
-#ifndef PLATFORM_QVALUELIST_H
-#define PLATFORM_QVALUELIST_H
+#ifndef BASE_QVALUELIST_H
+#define BASE_QVALUELIST_H
 
 #include <array>
 #include <cstddef>

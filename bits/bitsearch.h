@@ -1,14 +1,14 @@
 // BitSearch: the DeepSearch of one rule set and board size, and its nodes.
-#ifndef SEARCH_BITSEARCH_H
-#define SEARCH_BITSEARCH_H
+#ifndef BITS_BITSEARCH_H
+#define BITS_BITSEARCH_H
 
-#include "eval/bitanalysis.h"
-#include "eval/bitmaterial.h"
-#include "rules/bitmovegenerator.h"
+#include "bits/bitanalysis.h"
+#include "bits/bitline.h"
+#include "bits/bitmaterial.h"
+#include "bits/bitmovegenerator.h"
+#include "bits/bittable.h"
 #include "rules/legalmove.h"
 #include "search/abstractengine.h"
-#include "search/bitline.h"
-#include "search/bittable.h"
 #include "search/deepsearch.h"
 #include "search/eventpump.h"
 #include "search/nodeprocedure.h"

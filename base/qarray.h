@@ -1,6 +1,6 @@
 // QArray<T>: the toolkit's plain array of simple values, with short arrays kept in place.
-#ifndef PLATFORM_QARRAY_H
-#define PLATFORM_QARRAY_H
+#ifndef BASE_QARRAY_H
+#define BASE_QARRAY_H
 
 #include <cstring>
 #include <type_traits>

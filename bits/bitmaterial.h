@@ -1,10 +1,10 @@
 // BitMaterial: the material score on bit sets.
-#ifndef EVAL_BITMATERIAL_H
-#define EVAL_BITMATERIAL_H
+#ifndef BITS_BITMATERIAL_H
+#define BITS_BITMATERIAL_H
 
+#include "bits/bitposition.h"
 #include "eval/piecevalues.h"
 #include "eval/squaresvalue.h"
-#include "rules/bitposition.h"
 
 #include <algorithm>
 #include <numeric>

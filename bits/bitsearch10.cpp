@@ -1,3 +1,3 @@
-#include "search/bitsearch.h"
+#include "bits/bitsearch.h"
 
 template std::unique_ptr<DeepSearch> makeBitSearch<10>(const RuleTraits &, thinkStatistic &);

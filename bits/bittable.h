@@ -1,8 +1,8 @@
 // BitTable: the transposition table as the bit-set nodes use it.
-#ifndef SEARCH_BITTABLE_H
-#define SEARCH_BITTABLE_H
+#ifndef BITS_BITTABLE_H
+#define BITS_BITTABLE_H
 
-#include "rules/bitposition.h"
+#include "bits/bitposition.h"
 #include "search/abstractengine.h"
 #include "search/hashtable.h"
 

@@ -1,7 +1,7 @@
 // What the program wants from the machine it runs on besides drawing: boxes, events, sounds and
 // time.
-#ifndef PLATFORM_HOST_H
-#define PLATFORM_HOST_H
+#ifndef BASE_HOST_H
+#define BASE_HOST_H
 
 #include <QString>
 
