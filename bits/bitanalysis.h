@@ -106,8 +106,8 @@ private:
     static Bits passageMen(const Side &side) {
         Bits passage = 0;
         for (int layer = side.last; layer > 1; --layer) {
-            const Bits ways = Squares::template forward<!White>(passage) |
-                              Squares::template promotionRow<White>;
+            const Bits ways =
+                Squares::template forward<!White>(passage) | Squares::template promotionRow<White>;
             passage = ways & side.layers[layer];
         }
         return Squares::template forward<!White>(passage) & side.layers[1];

@@ -6,7 +6,6 @@
 
 #include <QStringList>
 
-
 Move moveOf(const LegalMove &m) {
     return {{m.path.begin(), m.path.end()}, {m.taken.begin(), m.taken.end()}};
 }

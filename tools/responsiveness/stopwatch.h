@@ -21,8 +21,8 @@ public:
     bool windowAppears();
     // The moment of a line that the subject tells, such as "flies".
     std::optional<double> told(const QByteArray &what);
-    // From a press of BREAK to the start of the flight; nothing when the flight came first. A flight
-    // that never comes counts as one after half a minute.
+    // From a press of BREAK to the start of the flight; nothing when the flight came first. A
+    // flight that never comes counts as one after half a minute.
     std::optional<double> pressBreak();
     // From the moment when another window goes away that was on top to when all is seen again.
     std::optional<double> uncover();
