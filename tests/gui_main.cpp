@@ -1,19 +1,20 @@
-// The main of every test that shows widgets.
-#include <gtest/gtest.h>
+// The main of every test that shows widgets: the program's own application object, so that the
+// forms have the style, fonts and dialog controls that they are shipped with.
+#include "platform/qpeapplication.h"
 
-#include <QApplication>
-#include <QFont>
+#include <gtest/gtest.h>
 
 namespace {
 
-// The forms are laid out for a screen of 72 dpi; a developer's own setting must not move pixels
-// that tests look at.
+// A developer's own settings must not move pixels or change texts that tests look at.
 void prepareToolkit() {
     qputenv("QT_FONT_DPI", "72");
-    qunsetenv("QT_SCALE_FACTOR");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_SCALE_FACTOR", "1");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    for (const char *language : {"LANGUAGE", "LC_ALL", "LANG"})
+        qputenv(language, "C");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
 }
 
 } // namespace
@@ -21,9 +22,7 @@ void prepareToolkit() {
 int main(int argc, char *argv[]) {
     testing::InitGoogleTest(&argc, argv);
     prepareToolkit();
-    QApplication application(argc, argv);
-    QFont font = QApplication::font();
-    font.setPointSize(9);
-    QApplication::setFont(font);
+    const QPEApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -26,8 +26,6 @@ void LiveHost::processEvents() {
 }
 
 GameTest::GameTest() {
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    qApp->installEventFilter(&controls);
     game.setLevel(easy1);
     game.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&game));

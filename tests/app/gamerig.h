@@ -5,7 +5,6 @@
 #include "app/draughts.h"
 #include "app/gamehist.h"
 #include "forms/formsettings.h"
-#include "platform/dialogcontrols.h"
 #include "rules/board.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
@@ -86,7 +85,6 @@ protected:
     void expectAgreement() const;
 
     LiveHost host;
-    DialogControls controls;
     OpenGame game;
 };
 
