@@ -1,22 +1,8 @@
 #include "platform/compactstyle.h"
 
 #include <QDialogButtonBox>
-#include <QPainter>
-#include <QStyleOption>
 
 CompactStyle::CompactStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-void CompactStyle::drawControl(ControlElement element, const QStyleOption *option,
-                               QPainter *painter, const QWidget *widget) const {
-    if (element != CE_FocusFrame) {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        return;
-    }
-    painter->save();
-    painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
-    painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
-    painter->restore();
-}
 
 int CompactStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                             QStyleHintReturn *returnData) const {

@@ -5,16 +5,13 @@
 #include <QProxyStyle>
 
 // The toolkit's own Fusion style, whatever the desktop's theme is, so that the small buttons of the
-// forms keep room for their texts. OK stands before Cancel in every row, without pictures. A focus
-// frame has the colour in which Fusion shows the focus.
+// forms keep room for their texts. OK stands before Cancel in every row, without pictures.
 class CompactStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     CompactStyle();
 
-    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;

@@ -1,7 +1,5 @@
 #include "platform/dialogcontrols.h"
 
-#include "platform/focusstop.h"
-
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -68,20 +66,17 @@ QList<QWidget *> choosersOf(const QDialog *dialog) {
     return choosers;
 }
 
-// The choosers, those that take no focus replaced by their stops.
-QList<QWidget *> newTabOrder(QDialog *dialog) {
-    QList<QWidget *> order = choosersOf(dialog);
-    for (QWidget *&chooser : order) {
-        if ((chooser->focusPolicy() & Qt::TabFocus) == 0)
-            chooser = new FocusStop(chooser, dialog);
-    }
-    return order;
+// A form meant for the pen alone has choosers that take no focus. Here they take it from the
+// keyboard, and as before not from the pen.
+void reachByTab(QWidget *chooser) {
+    chooser->setFocusPolicy(static_cast<Qt::FocusPolicy>(chooser->focusPolicy() | Qt::TabFocus));
 }
 
-// The row stands last in the toolkit's circle of widgets, where it comes after the stops. Only then
-// is the rest moved: the toolkit leaves alone what follows on the other round the circle.
+// The row stands last in the toolkit's circle of widgets. Only when it is there are the choosers
+// put in their order: the toolkit leaves alone what follows on the other round the circle.
 void addControls(QDialog *dialog) {
-    const QList<QWidget *> order = newTabOrder(dialog);
+    const QList<QWidget *> order = choosersOf(dialog);
+    std::for_each(order.begin(), order.end(), reachByTab);
     new ControlRow(dialog);
     for (qsizetype i = 1; i < order.size(); ++i)
         QWidget::setTabOrder(order[i - 1], order[i]);

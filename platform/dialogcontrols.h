@@ -8,9 +8,9 @@
 class QDialog;
 
 // Watches the application for modal dialogs that are shown without a button row of their own and
-// gives each such dialog a ControlRow, once. Tab goes through the dialog line by line, the row
-// last; choosers that take no focus are reached through a FocusStop each. Message boxes and the
-// toolkit's other ready-made dialogs are left alone. Install it on the application object with
+// gives each such dialog a ControlRow, once, and Tab focus to all that can be chosen in it. Tab
+// goes through the dialog line by line, the row last. Message boxes and the toolkit's other
+// ready-made dialogs are left alone. Install it on the application object with
 // installEventFilter().
 class DialogControls : public QObject {
     Q_OBJECT

@@ -97,7 +97,7 @@ private:
         bool above = false;
         for (const QObject *child : widget->parent()->children()) {
             const auto *other = qobject_cast<const QWidget *>(child);
-            if (above && other != nullptr && other->isVisible() && !other->inherits("FocusStop") &&
+            if (above && other != nullptr && other->isVisible() &&
                 other->geometry().intersects(drawn.translated(widget->pos())) &&
                 other->objectName() != "btnBreak") // only ever shown in place of btnAbout
                 return true;
