@@ -11,7 +11,7 @@ if(DRAUGHTS_SANITIZE)
     target_link_options(draughts_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# The targets themselves are linked with -fsanitize=fuzzer, see tools/fuzz.
+# The programs themselves are linked with -fsanitize=fuzzer, see tests/properties.
 if(DRAUGHTS_FUZZ)
     target_compile_options(draughts_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

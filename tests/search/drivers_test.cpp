@@ -2,14 +2,10 @@
 
 #include "search/deepsearch.h"
 #include "tests/support/enginerig.h"
-#include "tests/support/plaintwin.h"
-#include "tools/bench/benchrun.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <random>
 
 namespace {
 
@@ -165,31 +161,6 @@ TEST(NodeSearch, TreesByHand) {
                   (std::vector{c.score, c.plies, c.nodes, c.valued, c.generated, c.plies, 0}))
             << c.name;
         EXPECT_EQ(rig.lineText(), c.line) << c.name;
-    }
-}
-
-// TWIN_SEARCHES in the environment says how many positions.
-TEST(Drivers, DeepLevelsAreTheSameWithAndWithoutEngines) {
-    const char *wanted = std::getenv("TWIN_SEARCHES");
-    std::mt19937 random(77);
-    const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
-    for (int i = wanted == nullptr ? 60 : std::atoi(wanted); i > 0 && !HasFailure(); --i) {
-        BenchTask task;
-        task.rules = allRuleSets[below(3)];
-        task.position = board(allBoardSizes[below(4)]);
-        for (int plies = below(120); plies > 0; --plies) {
-            const std::vector<plain::Move> moves = plain::legalMoves(task.rules, task.position);
-            if (!moves.empty())
-                plain::play(task.position, moves[random() % moves.size()]);
-        }
-        task.depth = 1 + below(6);
-        task.giveAway = below(4) == 0;
-        const auto found = [&task](bool straightforward) {
-            Signature signature;
-            signature.add(runTask(task, straightforward));
-            return signature.text();
-        };
-        EXPECT_EQ(found(true), found(false)) << task.depth << " plies\n" << picture(task.position);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "rules/intengine.h"
 #include "rules/ruleset.h"
 #include "search/bestline.h"
+#include "search/deepsearch.h"
 #include "search/hashtable.h"
 #include "search/thinkstatistic.h"
 #include "tests/support/drawnboard.h"
@@ -21,12 +22,13 @@ struct EngineRig {
     board position;
     thinkStatistic statistic;
     SquaresValue values;
-    hashTable table{10003};
+    hashTable table;
     std::unique_ptr<AbstractEngine> engine;
     Score score{0, 0};
     BestLine line;
 
-    EngineRig(RuleSet rules, const board &b) : position(b), values(b.size, false) {
+    EngineRig(RuleSet rules, const board &b, int tableSize = 10003)
+        : position(b), values(b.size, false), table(tableSize) {
         XY::B_SIZE = b.size;
         statistic.scoreNoise = 1;
         AbstractEngine::breakThinking = AbstractEngine::isGambit = false;
@@ -40,8 +42,13 @@ struct EngineRig {
     ~EngineRig() {
         AbstractEngine::setSQV(nullptr);
         AbstractEngine::setHashTable(nullptr);
+        DeepSearch::enable(true);
     }
+    EngineRig(const EngineRig &) = delete;
+    EngineRig &operator=(const EngineRig &) = delete;
 
+    // From now on no level of a search is left to the bit sets.
+    void leaveOutBits() { DeepSearch::enable(false); }
     // Searches; the chosen move as text, "none" without one.
     std::string search() {
         const LegalMove *m = engine->getBestMove(score, line);

@@ -2,9 +2,12 @@
 
 #include "app/choices.h"
 #include "rules/legalmove.h"
-#include "tests/support/plaintwin.h"
+#include "search/abstractengine.h"
 
 #include <QStringList>
+
+#include <memory>
+#include <utility>
 
 Move moveOf(const LegalMove &m) {
     return {{m.path.begin(), m.path.end()}, {m.taken.begin(), m.taken.end()}};
@@ -13,8 +16,14 @@ Move moveOf(const LegalMove &m) {
 std::vector<Move> legalMoves(int rules, const board &position) {
     board copy = position;
     std::vector<Move> moves;
-    for (const plain::Move &m : plain::legalMoves(rulesChoice(rules).value_or(fallbackRules), copy))
-        moves.push_back({m.path, m.taken});
+    // The window may not have set its size yet, or be about to change it.
+    const int windowSize = std::exchange(XY::B_SIZE, position.size);
+    const std::unique_ptr<AbstractEngine> engine(
+        newEngine(rulesChoice(rules).value_or(fallbackRules), &copy, 1, nullptr, position.size));
+    engine->FillMoveList();
+    for (const LegalMove &m : engine->moveList)
+        moves.push_back(moveOf(m));
+    XY::B_SIZE = windowSize;
     return moves;
 }
 

@@ -20,7 +20,7 @@ struct Move {
 
 Move moveOf(const LegalMove &m);
 
-// The moves of the side to move in the engine's order, listed by the plain twin of the rules.
+// The moves of the side to move in the engine's order, listed by a fresh engine.
 // `rules` is an item of the settings dialog.
 std::vector<Move> legalMoves(int rules, const board &position);
 

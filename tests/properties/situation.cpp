@@ -1,0 +1,78 @@
+#include "tests/properties/situation.h"
+
+#include "rules/legalmove.h"
+#include "search/abstractengine.h"
+
+#include <QString>
+#include <QTextStream>
+
+#include <memory>
+
+namespace {
+
+// What a byte's low bits put on a square.
+constexpr unsigned char pieces[] = {0,         whiteMan, blackMan, whiteKing,
+                                    blackKing, whiteMan, blackMan, 0};
+
+// Flying kings capture by so many routes where many pieces stand about that nobody lists them.
+constexpr int mostAmongKings = 18;
+
+void playGame(Bytes &bytes, RuleSet rules, board &b) {
+    const std::unique_ptr<AbstractEngine> engine(newEngine(rules, &b, 1, nullptr, b.size));
+    while (!bytes.empty() && !engine->FillMoveList())
+        engine->makeMove(&b, engine->getLegalMove(bytes.below(engine->moveList.count())));
+}
+
+// Each byte leaves up to seven dark squares free and puts a piece on the next, marked or not.
+void scatter(Bytes &bytes, board &b) {
+    b.clear();
+    int placed = 0;
+    bool kings = false;
+    const int rowsUp = b.size / 2;
+    for (int at = 0; !bytes.empty(); ++at) {
+        const int byte = bytes.take();
+        at += byte / 8 % 8;
+        const unsigned char piece = pieces[byte % 8];
+        kings = kings || (piece & codeKing) != 0;
+        if (at >= b.size * rowsUp || (kings && placed >= mostAmongKings))
+            break;
+        const int x = at / rowsUp;
+        const int mark = piece != 0 && byte >= 128 ? codeCanMove : 0;
+        b.squares[x][2 * (at % rowsUp) + x % 2] = static_cast<unsigned char>(piece | mark);
+        placed += piece != 0;
+    }
+}
+
+} // namespace
+
+Situation readSituation(Bytes &bytes) {
+    const int first = bytes.take();
+    const int size = allBoardSizes[first / 3 % 4];
+    XY::B_SIZE = size;
+    Situation situation{allRuleSets[first % 3], board(size)};
+    board &b = situation.position;
+    if (first / 24 % 2 == 0) {
+        playGame(bytes, situation.rules, b);
+    } else {
+        scatter(bytes, b);
+        b.whiteToMove = first / 12 % 2 == 0;
+        b.plyCount = b.whiteToMove ? 40 : 41;
+    }
+    while (!bytes.empty())
+        bytes.take();
+    return situation;
+}
+
+std::string lineOf(const board &b) {
+    QString line;
+    QTextStream stream(&line);
+    b.toStream(stream);
+    stream.flush();
+    return line.trimmed().toStdString();
+}
+
+std::string describe(const Situation &situation) {
+    constexpr const char *words[] = {"international", "american", "polish"};
+    return std::string("position ") + words[static_cast<int>(situation.rules)] + " normal 4 " +
+           lineOf(situation.position);
+}
