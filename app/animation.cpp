@@ -10,8 +10,6 @@
 #include "view/drcanvas.h"
 #include "view/drcanvaspiece.h"
 
-#include <QPushButton>
-
 #include <utility>
 
 namespace {
@@ -29,8 +27,7 @@ void Draughts::AnimateLegalMove(LegalMove *m) {
                           QStringLiteral("no move given"));
         return;
     }
-    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
-    lockControls();
+    enter(Phase::Flying);
     for (const XY &square : m->taken) {
         unsigned char &code = pBoard->Get(square);
         code |= codeTaken;
@@ -40,19 +37,13 @@ void Draughts::AnimateLegalMove(LegalMove *m) {
     danceTo->resize(0);
     for (unsigned i = 1; i < m->path.size(); ++i)
         danceTo->append(m->path[i]);
-    connect(pCanvas.get(), &DrCanvas::signalDance, this, &Draughts::AfterDance,
-            Qt::UniqueConnection);
     pMove = m;
-    flying = true;
     pieces[m->from().x][m->from().y]->setDanceTo(danceTo.get());
 }
 
 void Draughts::AfterDance() {
-    if (!flying || closed)
+    if (phase_ != Phase::Flying)
         return;
-    flying = false;
-    restoreControls();
-    disconnect(pCanvas.get(), &DrCanvas::signalDance, this, &Draughts::AfterDance);
     updatePieceInfo(pMove->from().x, pMove->from().y, pMove->to().x, pMove->to().y);
     for (const XY &square : pMove->taken) {
         trashPiece(square.x, square.y);
@@ -60,10 +51,8 @@ void Draughts::AfterDance() {
     }
     // The engine is about to list other moves.
     pMove = nullptr;
-    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
     pHist->insert(pBoard.get());
-    btnPrev->setEnabled(true);
-    btnFwd->setEnabled(false);
+    enter(Phase::HandOver);
     ++pBoard->plyCount;
     DoPlayerMove();
 }

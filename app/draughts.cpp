@@ -13,14 +13,15 @@
 #include "search/thinkstatistic.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"
+#include "view/drcanvaspiece.h"
 #include "view/mycanvasview.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 
 #include <new>
+#include <utility>
 
 hashTable HT(10003);
 
@@ -44,14 +45,7 @@ Draughts::Draughts(QWidget *parent, const char *name)
     connect(btnPrev, &QPushButton::clicked, this, &Draughts::histPrev);
     connect(btnFwd, &QPushButton::clicked, this, &Draughts::histFwd);
     createGame();
-    createCanvas();
-    CreateCanvasPieces(pCanvas.get(), pBoard.get());
-    createView();
-    pView->show();
-
-    btnBreak->hide();
-    btnAbout->show();
-    labelScore->show();
+    createBoard();
     pAbout = new fabout(this, nullptr, true);
     pAbout->hide();
     connect(btnSettings, &QPushButton::clicked, this, &Draughts::showSettings);
@@ -95,15 +89,16 @@ void Draughts::adoptEngine(AbstractEngine *engine) {
     AbstractEngine::pHT = &HT;
 }
 
-void Draughts::createCanvas() {
+// The canvas with its pieces, and the view on it.
+void Draughts::createBoard() {
     pCanvas = std::make_unique<DrCanvas2>(pMetrics.get());
     pCanvas->setBackgroundColor(Qt::white);
     pCanvas->setAdvancePeriod(stepMs);
-}
-
-void Draughts::createView() {
+    CreateCanvasPieces(pCanvas.get(), pBoard.get());
     pView = new MyCanvasView(pCanvas.get(), this, pMetrics.get());
     pView->setAccessibleName(tr("Board"));
+    placeView();
+    pView->show();
 }
 
 // A dialog that is open, or a search that runs, is left at once, so that the event loop can end.
@@ -111,12 +106,40 @@ void Draughts::closeEvent(QCloseEvent *event) {
     MainForm::closeEvent(event);
     if (!event->isAccepted())
         return;
-    closed = true;
+    if (phase_ != Phase::Closed)
+        interrupted_ = std::exchange(phase_, Phase::Closed);
     AbstractEngine::breakThinking = true;
     for (QDialog *dialog :
          {static_cast<QDialog *>(pSettings.get()), static_cast<QDialog *>(pAbout)}) {
         if (dialog->isVisible())
             dialog->reject();
+    }
+}
+
+// A search inside this event would keep the window from appearing.
+void Draughts::showEvent(QShowEvent *event) {
+    MainForm::showEvent(event);
+    if (phase_ != Phase::Closed)
+        return;
+    const bool searchMayFollow = interrupted_ != Phase::Waiting;
+    QMetaObject::invokeMethod(this, &Draughts::resume,
+                              searchMayFollow ? Qt::QueuedConnection : Qt::DirectConnection);
+}
+
+// Goes on where closing the window has interrupted the game. The piece in flight may have arrived
+// in the meantime; the search may still be on its way to its end.
+void Draughts::resume() {
+    if (phase_ != Phase::Closed || !isVisible())
+        return;
+    phase_ = Phase::HandOver;
+    if (interrupted_ == Phase::HandOver) {
+        DoPlayerMove();
+    } else if (interrupted_ == Phase::Thinking) {
+        enter(Phase::BrokenOff);
+    } else {
+        enter(interrupted_);
+        if (phase_ == Phase::Flying && !pieces[pMove->from().x][pMove->from().y]->isDancing())
+            AfterDance();
     }
 }
 
@@ -127,21 +150,20 @@ void Draughts::newGame() {
         !host().messageBox(BoxKind::Warning, QStringLiteral("confirm"),
                            QStringLiteral("confirm NewGame"), BoxButtons::OkCancel, this))
         return;
+    if (isBusy()) // closed with the box open
+        return;
     pHist->clear();
     pStat->newGame();
     setPlayers(false, true);
     selection.resize(0);
     markSquares(0);
     danceTo->resize(0);
-    btnForce->setEnabled(true);
-    disconnect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame);
     trashAllPieces();
     pBoard->startPos(pMetrics->size);
     pEngine->FillMoveList();
     CreateCanvasPieces(pCanvas.get(), pBoard.get());
     pHist->insert(pBoard.get());
-    btnFwd->setEnabled(false);
-    btnPrev->setEnabled(false);
     setPlayersByChoice(pSettings->cmbPlayers->currentIndex());
+    enter(Phase::HandOver);
     DoPlayerMove();
 }

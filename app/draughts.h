@@ -37,7 +37,8 @@ extern hashTable HT;
 //
 // While a search runs or a piece flies the game may not be touched: the controls are disabled or
 // disconnected, and the slots that would change the game do nothing. Only BREAK acts. Closing the
-// window ends the game there and then: the search is broken off and no further move is played.
+// window stops the game there and then: the search is broken off and no further move is played. A
+// window that is shown again plays on from there.
 //
 // Between moves every piece on the board has exactly one visible sprite, `pieces` at the same
 // square; all other sprites are hidden and wait in `trash`.
@@ -45,14 +46,30 @@ class Draughts : public MainForm {
     Q_OBJECT
 
 public:
+    // What the game is doing. What can be seen and pressed in each phase is a table in phases.cpp.
+    enum class Phase {
+        HandOver,  // nothing yet: the turn is about to be handed over
+        Waiting,   // for the player to enter a move
+        Thinking,  // a search runs
+        BrokenOff, // the search is ending without a move; the turn is handed over after it
+        Chosen,    // the search has ended, its move has not begun
+        Flying,    // a piece flies
+        Over,      // the side to move has no move
+        Closed     // the window was closed
+    };
+
     // Builds the window and starts a game with the settings dialog's defaults: international rules
     // on 10 x 10 squares, a person with white against the computer. `name` is the object name; null
     // stands for the form's own.
     explicit Draughts(QWidget *parent = nullptr, const char *name = nullptr);
     ~Draughts() override;
 
+    Phase phase() const { return phase_; }
+
     // Shows the piece counts, describes the board to assistive technology and hands the turn to
-    // whoever plays the side to move.
+    // whoever plays the side to move. From inside another call a box says so first; a search that
+    // runs is broken off and the turn handed over when it has ended. In a flight, whose end hands
+    // over the turn, and in a closed window nothing happens.
     void DoPlayerMove();
     // Searches and plays the computer's move, or ends the game when there is none.
     void computerMove();
@@ -130,6 +147,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
     std::unique_ptr<::board> pBoard;
@@ -150,30 +168,31 @@ protected:
     std::unique_ptr<boardMetrics> pMetrics;
     int whiteComputer = 0; // 1: the computer plays white
     int blackComputer = 0; // 1: the computer plays black
-    bool thinking = false; // a search runs
-    bool flying = false;   // a piece flies
-    bool closed = false;   // the window was closed
 
 private:
     // Construction and rebuilding.
     void createGame();
-    void createCanvas();
-    void createView();
+    void createBoard();
     void adoptEngine(AbstractEngine *engine);
     void placeView();
 
-    // A search or a flight is running, or the window is closed: the game may not be touched.
-    bool isBusy() const { return thinking || flying || closed; }
-    bool isComputersTurn() const;
-
-    // Turn flow.
-    void describeBoard();
-    LegalMove *searchMove();
-    void showThinking();
-    void lockControls();
-    void restoreControls();
+    // The phase and what shows it. In a closed window enter() sets the phase that it resumes in.
+    void enter(Phase phase);
+    void showControls();
+    void connectControls();
     void keepFocus();
     void giveBackFocus();
+    void resume();
+    // A search or a flight is running, or the window is closed: the game may not be touched.
+    bool isBusy() const {
+        return phase_ != Phase::HandOver && phase_ != Phase::Waiting && phase_ != Phase::Over;
+    }
+
+    // Turn flow.
+    void handOver();
+    void describeBoard();
+    bool isComputersTurn() const;
+    LegalMove *searchMove();
     void giveTurnToPlayer();
     void setPlayers(bool white, bool black);
     void setPlayersByChoice(int item);
@@ -184,7 +203,9 @@ private:
     void enableSteps();
     void restorePosition();
 
-    QPointer<QWidget> focusKept; // while the controls are locked: what had the focus before
+    Phase phase_ = Phase::HandOver;
+    Phase interrupted_ = Phase::HandOver; // of a closed window: the phase it resumes in
+    QPointer<QWidget> focusKept_;         // while the game is busy: what had the focus before
 };
 
 #endif

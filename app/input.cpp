@@ -6,7 +6,6 @@
 #include "rules/board.h"
 #include "search/abstractengine.h"
 #include "view/drcanvas.h"
-#include "view/mycanvasview.h"
 
 #include <QPushButton>
 
@@ -15,7 +14,6 @@
 void Draughts::userInput(int x, int y, bool) {
     if (isBusy() || !XY(x, y).onBoard())
         return;
-    disconnect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput);
     if (pCanvas->isMarked(x, y) != MarkNext && pBoard->squares[x][y] != 0)
         selection.resize(0);
     selection.append(XY(x, y));
@@ -32,7 +30,6 @@ void Draughts::userInput(int x, int y, bool) {
         selection.resize(0);
         markSquares(0);
     }
-    connect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput, Qt::UniqueConnection);
 }
 
 // The index of a legal move that begins with the squares tapped so far, -1 when there is none, and

@@ -81,11 +81,7 @@ void Draughts::setBSize(int index) {
     delete pView;
     pCanvas.reset();
     trash.clear();
-    createCanvas();
-    CreateCanvasPieces(pCanvas.get(), pBoard.get());
-    createView();
-    placeView();
-    pView->show();
+    createBoard();
     pHist->clear();
     newGame();
 }
@@ -116,7 +112,7 @@ void Draughts::showSettings() {
     const Chosen before = chosenIn(*pSettings);
     showInWidgets(*pSettings, before);
     const bool accepted = pSettings->exec() == QDialog::Accepted;
-    if (closed)
+    if (phase_ == Phase::Closed)
         return;
     const Chosen now = chosenIn(*pSettings);
     if (accepted) {

@@ -19,13 +19,23 @@
 
 void Draughts::DoPlayerMove() {
     static int nestLevel = 0;
-    if (closed)
+    if (phase_ == Phase::Closed)
         return;
     ++nestLevel;
     if (nestLevel > 1) {
         host().messageBox(BoxKind::Warning, QStringLiteral("DoPlayerMove"),
                           QStringLiteral("level>1"), BoxButtons::Ok, this);
     }
+    if (phase_ == Phase::Thinking) {
+        enter(Phase::BrokenOff);
+        AbstractEngine::breakThinking = true;
+    } else if (!isBusy()) {
+        handOver();
+    }
+    --nestLevel;
+}
+
+void Draughts::handOver() {
     clearTargetMarks();
     int white = 0;
     int black = 0;
@@ -34,11 +44,12 @@ void Draughts::DoPlayerMove() {
     describeBoard();
     if (pBoard->whiteToMove)
         testPieces();
+    if (isBusy()) // closed with a box open
+        return;
     if (isComputersTurn())
         computerMove();
     else
         waitUser();
-    --nestLevel;
 }
 
 // The toolkit announces every setting, also of what is there already.
@@ -57,11 +68,15 @@ void Draughts::computerMove() {
         gameOver();
         return;
     }
-    pMove = searchMove();
-    if (closed)
+    LegalMove *const found = searchMove();
+    if (phase_ != Phase::Thinking) {
+        enter(Phase::HandOver);
+        if (phase_ != Phase::Closed)
+            handOver();
         return;
-    lblThinking->hide();
-    pView->setCursor(Qt::ArrowCursor);
+    }
+    enter(Phase::Chosen);
+    pMove = found;
     pBoard->whiteToMove = !pBoard->whiteToMove;
     AnimateLegalMove(pMove);
     if (pMove == nullptr)
@@ -73,24 +88,9 @@ LegalMove *Draughts::searchMove() {
     pCanvas->update();
     Score score(777, -1);
     BestLine line;
-    showThinking();
-    connect(btnBreak, &QPushButton::clicked, this, &Draughts::breakThinking, Qt::UniqueConnection);
-    thinking = true;
-    LegalMove *move = pEngine->getBestMove(score, line);
-    thinking = false;
-    return move;
-}
-
-void Draughts::showThinking() {
-    keepFocus();
-    pView->setCursor(Qt::ForbiddenCursor);
-    disconnect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput);
     lblThinking->setText(tr("*** THINKING ***"));
-    lblThinking->show();
-    btnBreak->show();
-    btnAbout->hide();
-    for (QPushButton *button : {btnForce, btnSettings, btnNewGame, btnPrev, btnFwd})
-        button->setEnabled(false);
+    enter(Phase::Thinking);
+    return pEngine->getBestMove(score, line);
 }
 
 // The search has found no move although there is one: the turn, passed on already, goes back, and
@@ -99,7 +99,7 @@ void Draughts::giveTurnToPlayer() {
     pBoard->whiteToMove = !pBoard->whiteToMove;
     pSettings->cmbPlayers->setCurrentIndex(humanComputer);
     setPlayersByChoice(humanComputer);
-    restoreControls();
+    enter(Phase::HandOver);
     waitUser();
 }
 
@@ -111,56 +111,16 @@ void Draughts::waitUser() {
         return;
     }
     lblThinking->setText(pEngine->isCapture() ? tr("You Must Capture") : tr("Your Move"));
-    lblThinking->show();
-    connect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame, Qt::UniqueConnection);
-    connect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput, Qt::UniqueConnection);
-    connect(btnForce, &QPushButton::clicked, this, &Draughts::forceMove, Qt::UniqueConnection);
-    btnForce->setEnabled(true);
-    enableSteps();
+    enter(Phase::Waiting);
     giveBackFocus();
 }
 
 void Draughts::gameOver() {
-    btnBreak->hide();
-    btnForce->setEnabled(false);
-    connect(btnNewGame, &QPushButton::clicked, this, &Draughts::newGame, Qt::UniqueConnection);
-    disconnect(pView, &MyCanvasView::clickedBxy, this, &Draughts::userInput);
-    disconnect(btnForce, &QPushButton::clicked, this, &Draughts::forceMove);
+    enter(Phase::Over);
     host().messageBox(BoxKind::Warning, QStringLiteral("Game Over"), QStringLiteral("Game Over"),
                       BoxButtons::Ok, this);
     lblThinking->setText(tr("Game Over"));
     giveBackFocus();
-}
-
-// For the time of a flight. NewGame is disconnected instead.
-void Draughts::lockControls() {
-    keepFocus();
-    for (QPushButton *button : {btnForce, btnSettings, btnPrev, btnFwd, btnAbout})
-        button->setEnabled(false);
-}
-
-// BREAK stays while the computer moves on: hidden for a moment only, it would lose a click of which
-// the press has come and the release has not.
-void Draughts::restoreControls() {
-    if (!isComputersTurn())
-        btnBreak->hide();
-    btnAbout->show();
-    for (QPushButton *button : {btnAbout, btnForce, btnSettings, btnNewGame})
-        button->setEnabled(true);
-}
-
-// The toolkit takes the focus from a button that is disabled or hidden and gives it to another, in
-// the end to none.
-void Draughts::keepFocus() {
-    if (focusKept.isNull())
-        focusKept = focusWidget();
-}
-
-// Whoever plays by keyboard goes on from the button pressed last.
-void Draughts::giveBackFocus() {
-    if (!focusKept.isNull() && focusKept->isEnabled())
-        focusKept->setFocus();
-    focusKept.clear();
 }
 
 void Draughts::enableSteps() {

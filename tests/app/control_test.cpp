@@ -61,7 +61,7 @@ TEST_F(GameTest, ForceMoveBringsTheComputerInForOneMoveOrWithBreakForTwo) {
     EXPECT_EQ(status(), after);
     place(startOfTen, 0);
     press(game.btnForce);
-    ASSERT_TRUE(game.flying);
+    ASSERT_TRUE(game.flying());
     EXPECT_EQ(status(), "[] 20/20 Break");
     press(game.btnBreak);
     land(2);

@@ -78,7 +78,7 @@ void GameTest::place(const std::string &drawing, int players) {
 
 void GameTest::land(int moves) {
     for (const int end = game.pBoard->plyCount + moves; game.pBoard->plyCount < end;) {
-        ASSERT_TRUE(game.flying) << status();
+        ASSERT_TRUE(game.flying()) << status();
         game.pCanvas->advance();
     }
 }
@@ -174,7 +174,7 @@ void GameTest::expectAgreement() const {
     const std::string expected = picture(b);
     std::string seen = shown();
     for (std::size_t i = 0; i < seen.size(); ++i) {
-        if (game.flying && seen[i] == 'x') // the next move takes it
+        if (game.flying() && seen[i] == 'x') // the next move takes it
             seen[i] = expected[i];
     }
     EXPECT_EQ(seen, expected);

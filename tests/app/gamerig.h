@@ -46,7 +46,8 @@ class OpenGame : public Draughts {
 public:
     using Draughts::pBoard, Draughts::pEngine, Draughts::pCanvas, Draughts::pView, Draughts::pHist,
         Draughts::pStat, Draughts::pSettings, Draughts::pMetrics, Draughts::pMove, Draughts::pieces,
-        Draughts::whiteComputer, Draughts::blackComputer, Draughts::flying;
+        Draughts::whiteComputer, Draughts::blackComputer;
+    bool flying() const { return phase() == Phase::Flying; }
 };
 
 // The game in a shown window, at the level "Easy 1". Every box that a test does not take away with

@@ -47,6 +47,6 @@ TEST_F(GameTest, ComputersPlayOnFromAStepBackAfterTheEnd) {
         EXPECT_EQ(boxes(), "Game Over: Game Over; ");
         EXPECT_EQ(status(), "[] 1/0 Prev About Settings NewGame") << "hidden by the search";
         press(game.btnPrev);
-        ASSERT_TRUE(game.flying);
+        ASSERT_TRUE(game.flying());
     }
 }

@@ -25,7 +25,7 @@ TEST_P(SoakTest, HundredsOfPliesLeaveOnlyTheHistoryBehind) {
     game.setBSize(size);
     long settled = 0;
     for (int ply = 0, inGame = 0; ply < plies; ++ply, ++inGame) {
-        if (!game.flying) {
+        if (!game.flying()) {
             const std::string ended = boxes();
             ASSERT_TRUE(ended.empty() || ended == "Game Over: Game Over; ") << ended;
             host.fixedSeed += 1;

@@ -37,7 +37,7 @@ TEST_F(GameTest, TapsSelectReselectAndClear) {
 
 TEST_F(GameTest, NothingButTheFlightActsWhileThePlayersManFlies) {
     taps("53 44");
-    ASSERT_TRUE(game.flying);
+    ASSERT_TRUE(game.flying());
     EXPECT_EQ(status(), "[Your Move] 20/20 NewGame");
     const std::string before = picture(*game.pBoard);
     for (QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnForce,
@@ -146,7 +146,7 @@ TEST_F(GameTest, WholeGameEndsWithGameOver) {
         for (int move = 0; move < 60 && host.boxes.empty(); ++move) {
             for (const XY &square : QArray<XY>(game.pEngine->getLegalMove(0)->path))
                 tap(square.x, square.y);
-            for (land(); game.flying;)
+            for (land(); game.flying();)
                 land();
             expectAgreement();
         }

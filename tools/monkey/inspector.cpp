@@ -48,11 +48,11 @@ QString checkPlayers(OpenGame &game, const GameModel &model) {
 }
 
 QString checkState(OpenGame &game, const GameModel &model) {
-    if (game.thinking != (model.phase == Phase::Thinking))
-        return game.thinking ? "a search runs" : "no search runs";
-    if (game.flying != (model.phase == Phase::Flying))
-        return game.flying ? "a piece flies" : "no piece flies";
-    if ((game.pMove != nullptr) != game.flying)
+    if (game.thinking() != (model.phase == Phase::Thinking))
+        return game.thinking() ? "a search runs" : "no search runs";
+    if (game.flying() != (model.phase == Phase::Flying))
+        return game.flying() ? "a piece flies" : "no piece flies";
+    if ((game.pMove != nullptr) != game.flying())
         return "there is a move being played, and no flight, or the other way round";
     return {};
 }
@@ -159,9 +159,9 @@ Choices shownChoices(const OpenGame &game) {
 QString inspect(OpenGame &game, const GameModel &model) {
     if (!model.fault.isEmpty())
         return model.fault;
-    if (game.closed != (model.phase == Phase::Closed))
-        return game.closed ? "the window was closed" : "the window was not closed";
-    if (game.closed)
+    if (game.closed() != (model.phase == Phase::Closed))
+        return game.closed() ? "the window was closed" : "the window was not closed";
+    if (game.closed())
         return samePosition(*game.pBoard, model.shownPosition()) ? QString()
                                                                  : "the closed game goes on";
     constexpr Check checks[] = {checkState,   checkPosition, checkCursor, checkPlayers,

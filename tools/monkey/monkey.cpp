@@ -54,7 +54,7 @@ std::uint64_t Monkey::run() {
     referee_.openWindow();
     while (!isOver()) {
         step();
-        if (referee_.game().closed)
+        if (referee_.game().closed())
             startAgain();
     }
     referee_.closeWindow();
@@ -73,7 +73,7 @@ void Monkey::step() {
 void Monkey::stepInSearch() {
     referee_.check();
     ++rounds_;
-    if (referee_.game().closed && ++roundsClosed_ > 1)
+    if (referee_.game().closed() && ++roundsClosed_ > 1)
         journal_.fail("the search goes on although the window is closed", "its end\n");
     QCoreApplication::processEvents();
     if (isOver()) {
@@ -82,7 +82,7 @@ void Monkey::stepInSearch() {
     }
     if (!dice_.oneIn(rounds_ < veryManyRounds ? roundsBetweenEvents : 1))
         return;
-    for (int n = dice_.between(1, 3); n > 0 && !referee_.game().closed; --n)
+    for (int n = dice_.between(1, 3); n > 0 && !referee_.game().closed(); --n)
         step();
 }
 

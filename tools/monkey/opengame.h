@@ -10,7 +10,10 @@ public:
     using Draughts::pBoard, Draughts::pEngine, Draughts::pCanvas, Draughts::pView, Draughts::pHist,
         Draughts::pStat, Draughts::pSettings, Draughts::pAbout, Draughts::pMetrics, Draughts::pMove,
         Draughts::pieces, Draughts::trash, Draughts::selection, Draughts::whiteComputer,
-        Draughts::blackComputer, Draughts::thinking, Draughts::flying, Draughts::closed;
+        Draughts::blackComputer;
+    bool thinking() const { return phase() == Phase::Thinking; }
+    bool flying() const { return phase() == Phase::Flying; }
+    bool closed() const { return phase() == Phase::Closed; }
 };
 
 #endif

@@ -150,7 +150,8 @@ void Referee::follow() {
         tally_.gamesOver += model_.phase == Phase::Over;
         journal_.note("lands");
     }
-    if (model_.phase == Phase::Thinking && !game.thinking && game.flying && game.pMove != nullptr) {
+    if (model_.phase == Phase::Thinking && !game.thinking() && game.flying() &&
+        game.pMove != nullptr) {
         const Move move = moveOf(*game.pMove);
         model_.begin(move);
         searching_ = 0;
@@ -161,7 +162,7 @@ void Referee::follow() {
 void Referee::check() {
     follow();
     QString fault = inspect(*window_, model_);
-    if (fault.isEmpty() && !window_->closed && ++checks_ % checksBetweenPictures == 0) {
+    if (fault.isEmpty() && !window_->closed() && ++checks_ % checksBetweenPictures == 0) {
         fault = inspectHistory(*window_, model_);
         if (fault.isEmpty())
             fault = inspectPixels(*window_, model_);

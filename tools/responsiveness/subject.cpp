@@ -79,7 +79,7 @@ public:
         PaintWatch watch(pView->viewport());
         tell("thinks", nowMs());
         forceMove();
-        if (closed)
+        if (phase() == Phase::Closed)
             return;
         tell("flies", nowMs());
         tell("painted", watch.longest());
