@@ -1,7 +1,7 @@
-// Searches as a whole: what they find, and when and how they end.
+// Searches as a whole: when and how they end, and what they leave.
 
-#include "search/deepsearch.h"
-#include "tests/support/enginerig.h"
+#include "rules/intengine.h"
+#include "tests/search/drawntree.h"
 
 #include <gtest/gtest.h>
 
@@ -9,26 +9,32 @@
 
 namespace {
 
-// Seconds to think, or a request in plies.
+// Seconds to think, or 0 for a depth.
 constexpr int byDepth = 0, timed = 5, unlimited = thinkStatistic::unlimitedSeconds;
 constexpr int allModes[] = {byDepth, timed, unlimited};
 
 void request(EngineRig &rig, int mode, int plies = 6) {
-    mode == byDepth ? rig.statistic.setReqDepth(plies) : rig.statistic.setReqTime(mode);
+    if (mode == byDepth)
+        rig.statistic.setReqDepth(plies);
+    else
+        rig.statistic.setReqTime(mode);
 }
 
-// Searches that end at once: a win found, a single move, which loses the last man, and no move.
-TEST(Drivers, EndingsWithoutDeepening) {
-    const char *const alone = "w ...... ...... ...... ..w... ...... ......";
+constexpr char manAlone[] = "w ...... ...... ...... ..w... ...... ......";
+
+// A win found, a single move, which loses the last man, and no move.
+TEST(Drivers, NothingIsDeepenedWhenAllIsClear) {
     const struct {
-        const char *picture, *move;
+        const char *name, *picture;
         bool giveAway;
+        const char *move;
         int score, depth, timedDepth, nodes;
-    } cases[] = {
-        {alone, "(2,2)-(3,3)", false, 999999, 1, 3, 4},
-        {alone, "(2,2)-(3,3)", true, -999999, 1, 3, 4},
-        {"w ...... ..b... ...... w..... ...... ......", "(0,2)-(1,3)", false, -999998, 1, 2, 4},
-        {"w ...... ..b... .b.... w..... ...... ......", "none", false, -1000000, 0, 0, 1}};
+    } cases[] = {{"won", manAlone, false, "(2,2)-(3,3)", 999999, 1, 3, 4},
+                 {"lost by giving away", manAlone, true, "(2,2)-(3,3)", -999999, 1, 3, 4},
+                 {"one move", "w ...... ..b... ...... w..... ...... ......", false, "(0,2)-(1,3)",
+                  -999998, 1, 2, 4},
+                 {"no move", "w ...... ..b... .b.... w..... ...... ......", false, "none", -1000000,
+                  0, 0, 1}};
     for (const auto &c : cases) {
         for (const int mode : allModes) {
             EngineRig rig(RuleSet::American, c.picture);
@@ -36,12 +42,31 @@ TEST(Drivers, EndingsWithoutDeepening) {
             AbstractEngine::breakThinking = true; // left over from another search
             rig.statistic.giveAway = c.giveAway;
             request(rig, mode);
-            EXPECT_EQ(rig.search(), c.move);
-            const int depth = mode == byDepth ? c.depth : c.timedDepth;
-            EXPECT_EQ((std::vector{rig.score.value, rig.score.depth, rig.position.hashScore,
-                                   rig.position.hashHorizon, rig.statistic.nodes, rig.host.beeps}),
-                      (std::vector{c.score, depth, c.score, depth, c.nodes, 1}));
+            EXPECT_EQ(rig.search(), c.move) << c.name;
+            EXPECT_EQ(rig.score.value, c.score) << c.name;
+            EXPECT_EQ(rig.score.depth, mode == byDepth ? c.depth : c.timedDepth) << c.name;
+            EXPECT_EQ(rig.position.hashScore, rig.score.value) << c.name;
+            EXPECT_EQ(rig.position.hashHorizon, rig.score.depth) << c.name;
+            EXPECT_EQ(rig.statistic.nodes, c.nodes) << c.name;
+            EXPECT_EQ(rig.host.beeps, 1) << c.name;
         }
+    }
+}
+
+TEST(Drivers, ASearchPreparesWhatItUses) {
+    for (const bool gambit : {false, true}) {
+        EngineRig rig(RuleSet::International, gambit ? drawn(manAlone) : board(6));
+        rig.values.reFill(12, !gambit);
+        AbstractEngine::isGambit = !gambit;
+        board leftOver(8);
+        rig.table.insert(&leftOver);
+        rig.statistic.setReqDepth(1);
+        rig.search();
+        EXPECT_EQ(AbstractEngine::isGambit, gambit);
+        EXPECT_EQ(rig.values.size, 6);
+        EXPECT_EQ(rig.values.values[1][5], gambit ? 40 : -10);
+        unsigned slot = 0;
+        EXPECT_EQ(rig.table.find(&leftOver, slot), 0) << "the table was emptied";
     }
 }
 
@@ -51,7 +76,8 @@ TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
         rig.host.onEvents = [] { AbstractEngine::breakThinking = true; };
         request(rig, mode);
         EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
-        EXPECT_TRUE(rig.score.value == -1000000 && rig.score.depth == -1);
+        EXPECT_EQ(rig.score.value, Score::lost);
+        EXPECT_EQ(rig.score.depth, -1);
         EXPECT_TRUE(AbstractEngine::breakThinking);
         EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
     }
@@ -60,11 +86,10 @@ TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
 TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
     for (const int mode : allModes) {
         EngineRig whole(RuleSet::International, board(10));
-        request(whole, mode == byDepth ? mode : timed, 3);
+        request(whole, mode == byDepth ? byDepth : timed, 3);
         whole.host.msPerReading = 6000; // beyond the budget: the first iteration is the last
         const std::string move = whole.search();
         EXPECT_EQ(whole.engine->depth, 30);
-        EXPECT_TRUE(mode == byDepth || whole.statistic.timeCredit == 5000 - 6000);
         EngineRig broken(RuleSet::International, board(10));
         request(broken, mode, 8);
         broken.host.onEvents = [&] {
@@ -90,7 +115,7 @@ TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
 }
 
 // Black's kings can take in so many orders that one listing lasts for a second; its man comes last.
-TEST(Drivers, LongListingsLookUpAndGiveUp) {
+TEST(Drivers, LongListingsProcessEventsAndGiveUp) {
     for (const RuleSet rules : allRuleSets) {
         EngineRig rig(rules, "w ...........B B.........b. .w.w.w.w.w.. ............ .w.w.w.w.w.. "
                              "............ .w.w...w.w.. ............ .w.w.w.w.w.. ............ "
@@ -98,7 +123,7 @@ TEST(Drivers, LongListingsLookUpAndGiveUp) {
         request(rig, unlimited);
         rig.host.onEvents = [&] { AbstractEngine::breakThinking = rig.host.eventRounds >= 20; };
         rig.search();
-        EXPECT_LT(rig.statistic.nodes, 2 + 201 * 19) << "listings have looked up, too";
+        EXPECT_LT(rig.statistic.nodes, 2 + 201 * 19) << "there were events in listings, too";
         EXPECT_EQ(rig.host.eventRounds, 20);
         EXPECT_EQ(rig.engine->getMoveList()->count(), 46);
         EXPECT_EQ(rig.engine->getLegalMove(0)->score, Score::none) << "nor was this one searched";
@@ -113,16 +138,35 @@ TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
     request(rig, unlimited);
     EXPECT_EQ(rig.search(), "(3,3)x(5,5)x(7,7)x(9,9)");
     EXPECT_EQ(rig.engine->depth, 50);
-    EXPECT_TRUE(rig.host.beeps == 2 && rig.host.pauses == std::vector{100000});
+    EXPECT_EQ(rig.host.beeps, 2);
+    EXPECT_EQ(rig.host.pauses, std::vector{100000});
+}
+
+// Five moves to choose from, and every iteration takes 700 ms: the first is expected to grow
+// by 3.5, the later ones to double, so the fourth is the last that leaves time for none within 5 s.
+TEST(TimeControl, WhatOneMoveSavesTheNextMaySpend) {
+    DrawnTree tree("(0 0 0 0 0)");
+    tree.host.msPerReading = 700;
+    tree.statistic.setReqTime(5);
+    tree.search();
+    EXPECT_EQ(tree.engine->depth, 60);
+    EXPECT_EQ(tree.statistic.timeCredit, 5000 - 4 * 700);
+    tree.search();
+    EXPECT_EQ(tree.engine->depth, 70) << "7000 ms are more than the 5000 + 1100 allowed";
+    EXPECT_EQ(tree.statistic.timeCredit, 2200 + 5000 - 5 * 700);
+    tree.statistic.newGame();
+    tree.search();
+    EXPECT_EQ(tree.engine->depth, 60) << "a new game has no credit";
 }
 
 // Each side has exactly one move, for ever, under all rules: the levels 0 to 100 are one node each.
 TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
     for (const RuleSet rules : allRuleSets) {
         for (const int mode : allModes) {
-            DeepSearch::enable(mode != timed); // over engines it is the same
             EngineRig rig(rules, "w .b.b.b.b.b b.b.b.b.b. .b.w.b.w.b w.w.b.w.w. ...b.b.w.B "
                                  "W.b.w.w... .b.b.w.b.b w.b.w.b.w. .w.w.w.w.w w.w.w.w.w.");
+            if (mode == timed)
+                rig.leaveOutBits();
             request(rig, mode, 8);
             EXPECT_NE(rig.search(), "none");
             EXPECT_EQ(rig.statistic.nodes, 1 + 101 * (mode == byDepth ? 8 : 1));
@@ -131,36 +175,24 @@ TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
             EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 30);
         }
     }
-    DeepSearch::enable(true);
 }
 
-// Trees small enough for paper. American kings: 1910 off the centre, 1920 in it, 1815 on a side.
-TEST(NodeSearch, TreesByHand) {
-    const struct {
-        const char *name;
-        int x, y, plies, score, nodes, valued, generated;
-        const char *line;
-    } cases[] = {
-        {"the centre, and four moves within 30 points", 4, 2, 1, 31, 6, 4, 24,
-         "(4,2)->(3,3) 10 \n"},
-        {"two equal moves: the one examined first", 2, 0, 1, 0, 4, 2, 12, "(2,0)->(1,1) 0 \n"},
-        {"black has two moves as good: 7 points", 0, 0, 2, -7, 9, 5, 27,
-         "(0,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"},
-        {"the second move is asked for its material first", 2, 0, 2, -7, 15, 11,
-         2 + 10 + 2 + 8 + 32, "(2,0)->(1,1) -7 \n(1,7)->(2,6) 0 \n"}};
-    for (const auto &c : cases) {
-        EngineRig rig(RuleSet::American, board(10));
-        rig.position.clear();
-        rig.position.squares[c.x][c.y] = whiteKing;
-        rig.position.squares[1][7] = blackKing;
-        request(rig, byDepth, c.plies);
-        EXPECT_NE(rig.search(), "none");
-        const thinkStatistic &s = rig.statistic;
-        EXPECT_EQ((std::vector{rig.score.value, rig.score.depth, s.nodes, s.scoresCalculated,
-                               s.movesGenerated, s.maxLevel, s.cutoffs}),
-                  (std::vector{c.score, c.plies, c.nodes, c.valued, c.generated, c.plies, 0}))
-            << c.name;
-        EXPECT_EQ(rig.lineText(), c.line) << c.name;
+// Rules of one's own that value nothing: every move's value is none.
+struct NothingEngine : IntEngine {
+    using IntEngine::IntEngine;
+    int materialScore(heuristic *) override { return Score::none; }
+    AbstractEngine *selfClone(::board *b, int budget, thinkStatistic *stat, int n) override {
+        return new NothingEngine(b, budget, stat, n);
+    }
+};
+
+TEST(Drivers, ASearchThatFindsNothingPlaysTheFirstMove) {
+    for (const int mode : {timed, byDepth}) {
+        EngineRig rig(RuleSet::International, board(10));
+        rig.engine = std::make_unique<NothingEngine>(&rig.position, 1, &rig.statistic, 10);
+        request(rig, mode, 1);
+        EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
+        EXPECT_EQ(rig.score.value, Score::lost);
     }
 }
 

@@ -52,35 +52,72 @@ TEST(HashTable, ProbesQuadraticallyAndGivesUpAfterEleven) {
     EXPECT_EQ(table.find(&b, idx), 0);
 }
 
-TEST(HashTable, RecordsAndTheirReplacement) {
-    hashTable table(101);
-    board b = withRecord(board(8), 50, 4, 10, 20);
-    ASSERT_EQ(table.insert(&b), 1);
-    b.squares[0][0] |= codeCanMove; // marks are not compared
-    unsigned idx = 0;
-    ASSERT_EQ(table.find(&b, idx), 1);
-    for (const int horizon : {4, 3, 5}) {
-        b = withRecord(b, 60, horizon, 11, 21);
-        EXPECT_EQ(table.insert(&b), horizon > 4) << horizon;
-        EXPECT_EQ(table.Tscore[idx], horizon > 4 ? 60 : 50);
-        EXPECT_EQ(table.getBoard(static_cast<int>(idx))->hashBeta, horizon > 4 ? 21 : 20);
+TEST(HashTable, ARecordGivesWayToAFartherOneOnly) {
+    const struct {
+        int horizon;
+        bool stored;
+    } cases[] = {{4, false}, {3, false}, {5, true}};
+    for (const auto &c : cases) {
+        hashTable table(101);
+        board b = withRecord(board(8), 50, 4, 10, 20);
+        ASSERT_EQ(table.insert(&b), 1);
+        b.squares[0][0] |= codeCanMove; // marks are not compared
+        b = withRecord(b, 60, c.horizon, 11, 21);
+        EXPECT_EQ(table.insert(&b), c.stored) << c.horizon;
+        EXPECT_EQ(table.count, 1);
+        unsigned slot = 0;
+        ASSERT_EQ(table.find(&b, slot), 1);
+        EXPECT_EQ(table.Tscore[slot], c.stored ? 60 : 50);
+        const board &record = *table.getBoard(static_cast<int>(slot));
+        EXPECT_EQ(record.hashScore, c.stored ? 60 : 50);
+        EXPECT_EQ(record.hashHorizon, c.stored ? 5 : 4);
+        EXPECT_EQ(record.hashAlpha, c.stored ? 11 : 10);
+        EXPECT_EQ(record.hashBeta, c.stored ? 21 : 20);
     }
-    EXPECT_EQ(table.count, 1);
-    board other = withRecord(b, 50, 4, 7, 7);
-    other.squares[0][0] = whiteKing;
+}
+
+TEST(HashTable, EqualityIsOfPiecesAndSizeAlone) {
+    const board b = withRecord(board(8), 50, 4);
+    board other = board(8);
+    other.whiteToMove = false;
+    other.plyCount = 7;
+    other.squares[1][1] |= codeTaken;
+    EXPECT_TRUE(hashTable::areEqual(&b, &other));
+    other.squares[7][7] = blackKing;
     EXPECT_FALSE(hashTable::areEqual(&b, &other));
-    for (const int depth : {4, 5}) {
-        Score s(9, depth);
-        Score n(9, depth);
-        table.chooseScore(&b, s);
-        table.chooseNegScore(&b, n);
-        EXPECT_EQ((std::vector{s.value, s.depth, n.value}),
-                  depth == 4 ? (std::vector{60, 5, -60}) : (std::vector{9, 5, 9}));
+    other.squares[7][7] = blackMan;
+    other.size = 6;
+    EXPECT_FALSE(hashTable::areEqual(&b, &other));
+}
+
+TEST(HashTable, ScoresOfFartherRecordsAreChosen) {
+    hashTable table(101);
+    board b = withRecord(board(8), 60, 5);
+    for (const int expected : {9, 60}) { // not stored, stored
+        Score farther(9, 4), equal(9, 5), negated(9, 4);
+        table.chooseScore(&b, farther);
+        table.chooseScore(&b, equal);
+        table.chooseNegScore(&b, negated);
+        EXPECT_EQ(farther.value, expected);
+        EXPECT_EQ(farther.depth, expected == 60 ? 5 : 4);
+        EXPECT_EQ(equal.value, 9);
+        EXPECT_EQ(negated.value, expected == 60 ? -60 : 9);
+        table.insert(&b);
     }
-    EXPECT_EQ(table.insert(&other, 40), 0) << "equal bounds";
-    other.hashBeta = 8;
-    EXPECT_EQ(table.insert(&other, 40), 1);
+}
+
+TEST(HashTable, InsertingIntoASlot) {
+    hashTable table(101);
+    const board equalBounds = withRecord(board(8), 50, 4, 7, 7);
+    EXPECT_EQ(table.insert(&equalBounds, 40), 0);
+    EXPECT_EQ(table.count, 0);
+    const board b = withRecord(board(8), 50, 4, 7, 8);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(table.insert(&b, 40), 1);
+        EXPECT_EQ(table.count, 1);
+    }
     EXPECT_EQ(table.Tscore[40], 50);
+    EXPECT_EQ(table.getBoard(40)->hashBeta, 8);
 }
 
 QString dumpOf(const hashTable &table) {

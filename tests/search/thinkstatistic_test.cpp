@@ -1,5 +1,6 @@
 #include "search/thinkstatistic.h"
 
+#include "search/score.h"
 #include "tests/support/recordinghost.h"
 
 #include <gtest/gtest.h>
@@ -25,46 +26,86 @@ struct Thinking : thinkStatistic {
 };
 
 TEST(ThinkStatistic, EstimatesOfTheNextIteration) {
-    constexpr int cases[][4] = {{150, 0, 10, 1050},  {900, 150, 10, 5364},
-                                {900, 150, 2, 1800}, {900, 899, 20, 1800},
-                                {0, 0, 10, 0},       {INT_MAX, 0, 100, INT_MAX}};
-    for (const auto &[last, previous, moves, estimate] : cases) {
+    constexpr struct {
+        int last, previous, moves, estimate;
+    } cases[] = {{150, 0, 10, 1050},   {900, 150, 10, 5364}, {900, 150, 2, 1800},
+                 {900, 899, 20, 1800}, {0, 0, 10, 0},        {INT_MAX, 0, 100, INT_MAX}};
+    for (const auto &c : cases) {
         Thinking t;
-        t.lastIterationMs = last;
-        t.prevIterationMs = previous;
-        EXPECT_EQ(t.Estimate(moves), estimate) << last << " after " << previous;
+        t.lastIterationMs = c.last;
+        t.prevIterationMs = c.previous;
+        EXPECT_EQ(t.Estimate(c.moves), c.estimate) << c.last << " after " << c.previous;
     }
 }
 
 // With two moves the next iteration is taken to end at twice the clock reading.
 TEST(ThinkStatistic, Budgets) {
-    constexpr int cases[][3] = {{2, 0, 2000},     {2, 10000, 7000}, {2, -10000, 1400},
-                                {2, 20000, 8000}, {2, 11999, 7999}, {2, -1, 2000},
-                                {60, 0, 60000},   {5, -3000, 3500}};
-    for (const auto &[seconds, credit, budget] : cases) {
-        Thinking t(seconds, credit);
-        EXPECT_TRUE(t.canTryAt(budget / 2, 2)) << seconds << " s, credit " << credit;
-        EXPECT_FALSE(t.canTryAt(budget / 2 + 1, 2)) << seconds << " s, credit " << credit;
+    constexpr struct {
+        int seconds, credit, budget;
+    } cases[] = {{2, 0, 2000},     {2, 10000, 7000}, {2, -10000, 1400}, {2, 20000, 8000},
+                 {2, 11999, 7999}, {2, -1, 2000},    {60, 0, 60000},    {5, -3000, 3500}};
+    for (const auto &c : cases) {
+        Thinking t(c.seconds, c.credit);
+        EXPECT_TRUE(t.canTryAt(c.budget / 2, 2)) << c.seconds << " s, credit " << c.credit;
+        EXPECT_FALSE(t.canTryAt(c.budget / 2 + 1, 2)) << c.seconds << " s, credit " << c.credit;
     }
 }
 
 TEST(ThinkStatistic, TheEndOfAMove) {
-    constexpr int cases[][5] = {{5, 0, 900, 10, 4100},
-                                {5, 0, 6000, 1, 0},
-                                {5, 0, 6000, 2, -1000},
-                                {60, INT_MAX - 5, 0, 5, INT_MAX},
-                                {99999999, INT_MIN, 1000000000, 10, INT_MIN}};
-    for (const auto &[seconds, credit, usedMs, moves, after] : cases) {
-        Thinking t(seconds, credit);
-        EXPECT_EQ(t.canTryAt(usedMs, 2), usedMs != 6000) << "without limit there is time";
+    constexpr struct {
+        int seconds, credit, usedMs, moves, creditAfter;
+    } cases[] = {{5, 0, 900, 10, 4100},
+                 {5, 0, 6000, 1, 0},
+                 {5, 0, 6000, 2, -1000},
+                 {60, INT_MAX - 5, 0, 5, INT_MAX},
+                 {99999999, INT_MIN, 1000000000, 10, INT_MIN}};
+    for (const auto &c : cases) {
+        Thinking t(c.seconds, c.credit);
+        t.canTryAt(c.usedMs, 2);
         t.host.now += 50; // an iteration that is not completed costs nothing
         t.movesGenerated = 9500;
-        t.stop(moves);
-        EXPECT_EQ(t.timeCredit, after) << usedMs << " of " << seconds << " s";
-        EXPECT_EQ(t.movesPerMs, 9500 / (usedMs + 50));
-        t.setReqDepth(0); // no depth: the request stays
-        EXPECT_TRUE(t.getReqTime() == seconds && t.timeCredit == after);
+        t.stop(c.moves);
+        EXPECT_EQ(t.timeCredit, c.creditAfter) << c.usedMs << " of " << c.seconds << " s";
+        EXPECT_EQ(t.elapsedMs, c.usedMs + 50);
+        EXPECT_EQ(t.movesPerMs, 9500 / (c.usedMs + 50));
     }
+}
+
+TEST(ThinkStatistic, WithoutLimitThereIsAlwaysTime) {
+    Thinking t(thinkStatistic::unlimitedSeconds, INT_MIN);
+    EXPECT_TRUE(t.canTryAt(1000000000, 2));
+}
+
+TEST(ThinkStatistic, Requests) {
+    Thinking t(5, 3000);
+    t.setReqDepth(0);
+    EXPECT_EQ(t.getReqTime(), 5) << "no depth: the request stays";
+    EXPECT_EQ(t.timeCredit, 3000);
+    t.setReqDepth(1);
+    EXPECT_EQ(t.getReqTime(), -1);
+    EXPECT_EQ(t.getReqDepth(), 1);
+    EXPECT_EQ(t.timeCredit, 0);
+    t.setReqTime(2);
+    EXPECT_EQ(t.getReqTime(), 2);
+    EXPECT_EQ(t.getReqDepth(), -1);
+}
+
+TEST(Score, NoneDecidedAndThousands) {
+    for (const int value : {1000777, -1000777}) {
+        EXPECT_TRUE(Score(value, 0).isNone()) << value;
+        EXPECT_FALSE(Score(value, 0).aroundGameOver()) << value;
+    }
+    for (const int value : {999900, -999900, 0}) {
+        EXPECT_FALSE(Score(value, 0).isNone()) << value;
+        EXPECT_FALSE(Score(value, 0).aroundGameOver()) << value;
+    }
+    for (const int value : {999901, -999901, -1000000, 1000778, -1000776})
+        EXPECT_TRUE(Score(value, 0).aroundGameOver()) << value;
+    constexpr struct {
+        int points, thousands;
+    } rounded[] = {{499, 0}, {500, 1}, {1499, 1}, {1500, 2}, {-499, 0}, {-500, -1}, {-1500, -2}};
+    for (const auto &c : rounded)
+        EXPECT_EQ(Score::hiPart(c.points), c.thousands) << c.points;
 }
 
 } // namespace
