@@ -17,7 +17,7 @@ int balance(IntEngine &engine, ValueOf valueOf) {
             const int code = engine.board->squares[x][y];
             if (code == 0)
                 continue;
-            const XY square(x, y);
+            XY square(x, y);
             const int first = engine.SafeDiag(square, 0);
             const int second = engine.SafeDiag(square, 1);
             int value = valueOf(square, code) + protectedSide * (first + second);
@@ -67,7 +67,7 @@ int shortKingPlace(const XY &p) {
 
 } // namespace
 
-int IntEngine::SafeDiag(const XY &p, int d) {
+int IntEngine::SafeDiag(XY &p, int d) {
     const int own = (board->Get(p) & codeWhite) != 0 ? codeWhite : codeBlack;
     int safe = 0;
     for (const XY &neighbour : {p + jmpInter[d], p - jmpInter[d]})

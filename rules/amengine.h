@@ -11,7 +11,7 @@ class AmEngine : public PolEngine {
 public:
     using PolEngine::PolEngine;
 
-    const char *className() const override { return "AmEngine"; }
+    const char *className() override { return "AmEngine"; }
     int materialScore(heuristic *h) override;
     AbstractEngine *selfClone(::board *b, int depth, thinkStatistic *stat, int size) override;
 

@@ -52,7 +52,7 @@ bool IntEngine::aboutToPass() {
 }
 
 // The start square is emptied before the final one is filled: a capture may end where it began.
-void IntEngine::makeMove(::board *b, const LegalMove *m) {
+void IntEngine::makeMove(::board *b, LegalMove *m) {
     unsigned char piece = b->Get(m->from());
     b->Get(m->from()) = 0;
     if (m->to().y == (b->whiteToMove ? size - 1 : 0))

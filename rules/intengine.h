@@ -17,12 +17,12 @@ public:
 
     bool FillMoveList() override;
     bool FillNotCapturingMoveList(QValueList<LegalMove> *list, ::board *b) override;
-    const char *className() const override { return "IntEngine"; }
+    const char *className() override { return "IntEngine"; }
     int materialScore(heuristic *h) override;
     AbstractEngine *selfClone(::board *b, int depth, thinkStatistic *stat, int size) override;
     bool aboutToPass() override;
-    int SafeDiag(const XY &p, int d) override;
-    void makeMove(::board *b, const LegalMove *m) override;
+    int SafeDiag(XY &p, int d) override;
+    void makeMove(::board *b, LegalMove *m) override;
 
     // Appends the capture sequences of the side to move to the move list, keeping the longest.
     virtual void FillCaptureMoves();

@@ -9,7 +9,7 @@ class PolEngine : public IntEngine {
 public:
     using IntEngine::IntEngine;
 
-    const char *className() const override { return "PolEngine"; }
+    const char *className() override { return "PolEngine"; }
     AbstractEngine *selfClone(::board *b, int depth, thinkStatistic *stat, int size) override;
     // Appends every capture sequence of the side to move and keeps them all.
     void FillCaptureMoves() override;

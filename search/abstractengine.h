@@ -55,7 +55,7 @@ public:
     // Replaces `list` by the non-capturing moves of the side to move in `b`, captures not looked
     // at; sets the can-move marks. True when there is one.
     virtual bool FillNotCapturingMoveList(QValueList<LegalMove> *list, ::board *b) = 0;
-    virtual const char *className() const = 0;
+    virtual const char *className() = 0;
     // Static value of the board in points for the side to move, plus the level's random term.
     // `h` is an analysis of the board when some side can reach its promotion row, or null.
     virtual int materialScore(heuristic *h) = 0;
@@ -65,10 +65,10 @@ public:
     virtual bool aboutToPass() = 0;
     // How many of the two neighbours of the piece on `p` along diagonal d (0: (+1,+1), 1: (+1,-1))
     // protect it: own pieces, or the board's edge.
-    virtual int SafeDiag(const XY &p, int d) = 0;
+    virtual int SafeDiag(XY &p, int d) = 0;
     // Plays `m`, a move of the side to move, on `b`: moves and crowns the piece, removes what was
     // taken, passes the turn.
-    virtual void makeMove(::board *b, const LegalMove *m) = 0;
+    virtual void makeMove(::board *b, LegalMove *m) = 0;
 
     const QValueList<LegalMove> *getMoveList() const { return &moveList; }
     // The i-th move, i >= 0; null beyond the last. Valid until the list is filled again.

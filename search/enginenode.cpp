@@ -75,22 +75,23 @@ void EngineNode::enter(int i, int childBudget) {
     else if (AbstractEngine::breakThinking && m.subEngine == nullptr)
         enterInPassing(m);
     else
-        enterEngine(m);
+        enterEngine(m, childBudget);
 }
 
-void EngineNode::enterEngine(LegalMove &m) {
+// A clone is made with the budget that the move's reduction has not been taken from yet.
+void EngineNode::enterEngine(LegalMove &m, int childBudget) {
     if (m.subBoard == nullptr) {
         m.subBoard = new board(engine_.board);
         engine_.makeMove(m.subBoard, &m);
     }
     if (m.subEngine == nullptr)
-        m.subEngine = engine_.selfClone(m.subBoard, childBudget_, engine_.statistic, engine_.size);
+        m.subEngine = engine_.selfClone(m.subBoard, childBudget, engine_.statistic, engine_.size);
     m.subEngine->depth = childBudget_;
 }
 
 // A search that is broken off only asks the table for what it has not searched yet. On the way out
 // of a long listing an engine and a board of its own for every move would take a while.
-void EngineNode::enterInPassing(const LegalMove &m) {
+void EngineNode::enterInPassing(LegalMove &m) {
     passed_.emplace(engine_.board);
     engine_.makeMove(&*passed_, &m);
 }

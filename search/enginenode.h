@@ -45,8 +45,8 @@ public:
     void trace(int alpha0, const Score &beta) const;
 
 private:
-    void enterEngine(LegalMove &m);
-    void enterInPassing(const LegalMove &m);
+    void enterEngine(LegalMove &m, int childBudget);
+    void enterInPassing(LegalMove &m);
 
     AbstractEngine &engine_;
     const bool trace_;

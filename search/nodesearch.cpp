@@ -110,7 +110,7 @@ void AbstractEngine::genFullTree(QTextStream &ts, int level) {
     if (noMoves || level >= depth)
         return;
     pumpEvents(dumpsBetweenEvents);
-    for (const LegalMove &m : moveList) {
+    for (LegalMove &m : moveList) {
         ::board after(board);
         makeMove(&after, &m);
         const std::unique_ptr<AbstractEngine> child(selfClone(&after, depth, statistic, size));

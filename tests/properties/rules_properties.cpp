@@ -29,9 +29,9 @@ std::string moveLine(const XY &from, const XY &to, int taken, const board &after
            std::to_string(key) + '\n' + picture(after);
 }
 
-std::string engineMoves(const QValueList<LegalMove> &list, AbstractEngine &engine) {
+std::string engineMoves(QValueList<LegalMove> &list, AbstractEngine &engine) {
     std::string text;
-    for (const LegalMove &m : list) {
+    for (LegalMove &m : list) {
         board after(engine.board);
         engine.makeMove(&after, &m);
         text += moveLine(m.from(), m.to(), static_cast<int>(m.taken.size()), after, after.HKey());

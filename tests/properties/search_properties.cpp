@@ -84,7 +84,7 @@ std::string outcome(const EngineRig &rig, const std::string &move) {
 
 // Every board in the tree is the one above after the move that it hangs on.
 std::string treeFault(AbstractEngine &engine) {
-    for (const LegalMove &m : engine.moveList) {
+    for (LegalMove &m : engine.moveList) {
         if (m.subBoard == nullptr)
             continue;
         board after(engine.board);
@@ -212,7 +212,7 @@ void playGame(const Request &request, const Situation &start) {
         const std::unique_ptr<AbstractEngine> referee(
             newEngine(now.rules, &copy, 1, &rig.statistic, copy.size));
         referee->FillMoveList();
-        const QValueList<LegalMove> &legal = referee->moveList;
+        QValueList<LegalMove> &legal = referee->moveList;
         const auto played = std::find_if(legal.begin(), legal.end(),
                                          [&](const LegalMove &m) { return moveText(m) == move; });
         if (played == legal.end())

@@ -128,7 +128,7 @@ std::vector<Perft::Share> Perft::divide(int depth) const {
     engine->FillMoveList();
     std::vector<Share> shares;
     std::vector<std::pair<XY, board>> played;
-    for (const LegalMove &m : engine->moveList) {
+    for (LegalMove &m : engine->moveList) {
         board after = b;
         engine->makeMove(&after, &m);
         const auto isSame = [&](const auto &other) {
