@@ -60,7 +60,7 @@ public:
         return moveList.isEmpty();
     }
     bool FillNotCapturingMoveList(QValueList<LegalMove> *, ::board *) override { return false; }
-    const char *className() const override { return "TreeEngine"; }
+    const char *className() override { return "TreeEngine"; }
     int materialScore(heuristic *) override {
         ++statistic->scoresCalculated;
         return beyond_ % 2 == 0 ? node_->material : -node_->material;
@@ -71,8 +71,8 @@ public:
         return clone;
     }
     bool aboutToPass() override { return false; }
-    int SafeDiag(const XY &, int) override { return 0; }
-    void makeMove(::board *b, const LegalMove *m) override {
+    int SafeDiag(XY &, int) override { return 0; }
+    void makeMove(::board *b, LegalMove *m) override {
         const int i = m->to().y;
         const std::string &sameAs = reply(i).sameAs;
         const std::string name = sameAs.empty() ? name_ + static_cast<char>('a' + i) : sameAs;
