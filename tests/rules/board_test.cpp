@@ -25,26 +25,60 @@ std::string read(board &b, const std::string &line) {
     return testing::internal::GetCapturedStdout();
 }
 
-TEST(Board, StartPositions) {
+TEST(Board, TheSmallestStartPosition) {
     EXPECT_EQ(picture(board(6)), "w\n.b.b.b\nb.b.b.\n......\n......\n.w.w.w\nw.w.w.\n");
-    constexpr int sizes[][3] = {{6, 12, 7}, {8, 24, 15}, {10, 40, 25}, {12, 60, 37}};
-    for (const auto &[size, pieces, gambit] : sizes) {
+}
+
+TEST(Board, StartPositions) {
+    constexpr struct {
+        int size, pieces, gambit;
+    } cases[] = {{6, 12, 7}, {8, 24, 15}, {10, 40, 25}, {12, 60, 37}};
+    for (const auto &c : cases) {
         board b(12);
         b.hashScore = 5;
         b.plyCount = 3;
-        b.startPos(size);
+        b.startPos(c.size);
         EXPECT_EQ(b.hashScore, 5) << "the search record is left alone";
         EXPECT_EQ(b.plyCount, 0);
-        EXPECT_EQ(b.StaringNumber(), pieces);
+        EXPECT_EQ(b.StaringNumber(), c.pieces);
         int white = -1, black = -1;
         b.countPieces(white, black);
-        EXPECT_TRUE(white == pieces / 2 && black == white);
+        EXPECT_EQ(white, c.pieces / 2);
+        EXPECT_EQ(black, c.pieces / 2);
         // Taking the pieces off one by one, few are left from five eighths of them on.
-        for (int i = 0, left = pieces; i < size * size; ++i) {
-            EXPECT_EQ(b.isGambit(), left <= gambit) << size << ", pieces left " << left;
-            left -= b.squares[i / size][i % size] != 0;
-            b.squares[i / size][i % size] = 0;
+        for (int i = 0, left = c.pieces; i < c.size * c.size; ++i) {
+            EXPECT_EQ(b.isGambit(), left <= c.gambit) << c.size << ", pieces left " << left;
+            left -= b.squares[i / c.size][i % c.size] != 0;
+            b.squares[i / c.size][i % c.size] = 0;
         }
+    }
+}
+
+// With black to move the key of an empty board is 0, and a piece's code is shifted once for every
+// square after its own: (11,11) is the last of 144. A bit that comes to the top adds 1.
+TEST(Board, Keys) {
+    EXPECT_EQ(board(10).HKey(), 3499457097U);
+    const struct {
+        const char *name;
+        std::vector<std::pair<XY, int>> pieces;
+        unsigned key;
+    } cases[] = {{"empty", {}, 0},
+                 {"on the last square", {{{11, 11}, blackMan}}, 9},
+                 {"two squares before", {{{11, 9}, blackMan}}, 36},
+                 {"both, exclusively or", {{{11, 9}, blackMan}, {{11, 11}, whiteKing}}, 34},
+                 {"a column before", {{{10, 10}, blackMan}}, 9U << 13},
+                 {"a bit at the top", {{{9, 7}, blackMan}}, (9U << 28) + 1},
+                 {"and beyond", {{{9, 5}, blackMan}}, (1U << 30) + (1U << 2)},
+                 {"marks do not count", {{{11, 11}, blackMan | codeTaken | codeCanMove}}, 9}};
+    for (const auto &c : cases) {
+        board b(12);
+        b.clear();
+        b.whiteToMove = false;
+        for (const auto &[square, code] : c.pieces)
+            b.Get(square) = static_cast<unsigned char>(code);
+        EXPECT_EQ(b.HKey(), c.key) << c.name;
+        b.whiteToMove = true;
+        EXPECT_NE(b.HKey(), c.key) << c.name;
     }
 }
 
@@ -64,34 +98,54 @@ TEST(Board, TextForm) {
     board copy(6);
     EXPECT_EQ(read(copy, text), "");
     EXPECT_EQ(picture(copy), picture(b)); // odd ply: black to move
-    EXPECT_TRUE(copy.plyCount == 7 && copy.hashScore == -250 && copy.hashHorizon == 12);
+    EXPECT_EQ(copy.plyCount, 7);
+    EXPECT_EQ(copy.hashScore, -250);
+    EXPECT_EQ(copy.hashHorizon, 12);
     EXPECT_EQ(read(b, "6 2 99 0 -1 " + std::string(70, '-') + "wK"), "zle \n") << "wrong key";
     EXPECT_EQ(picture(b), "w\n.....W\n......\n......\n......\n......\n......\n");
 }
 
-TEST(LegalMove, SquaresEnteredAndNotation) {
+LegalMove twoJumps() {
     LegalMove m({1, 1}, {3, 3});
     m.insTaken({2, 2}, 0);
     m.insPath({5, 1}, 2);
     m.insTaken({4, 2}, 1);
-    // Square by square; then one too many, and a wrong one.
-    QArray<XY> part;
-    for (const XY &square : {XY(1, 1), XY(3, 3), XY(5, 1)}) {
+    return m;
+}
+
+TEST(LegalMove, SquaresEntered) {
+    const LegalMove m = twoJumps();
+    const struct {
+        const char *name;
+        std::vector<XY> part;
+        int match;
+        XY next;
+    } cases[] = {{"nothing yet", {}, 1, {1, 1}},
+                 {"the start", {{1, 1}}, 1, {3, 3}},
+                 {"on the way", {{1, 1}, {3, 3}}, 1, {5, 1}},
+                 {"all", {{1, 1}, {3, 3}, {5, 1}}, 2, {-1, -1}},
+                 {"too much", {{1, 1}, {3, 3}, {5, 1}, {7, 3}}, 0, {-1, -1}},
+                 {"another row", {{1, 1}, {3, 1}}, 0, {-1, -1}},
+                 {"another column", {{3, 1}}, 0, {-1, -1}}};
+    for (const auto &c : cases) {
+        QArray<XY> part;
+        for (const XY &square : c.part)
+            part.append(square);
         XY next(-1, -1);
-        EXPECT_EQ(m.comparePart(&part, next), 1);
-        EXPECT_EQ(next, square);
-        part.append(square);
+        EXPECT_EQ(m.comparePart(&part, next), c.match) << c.name;
+        EXPECT_EQ(next, c.next) << c.name;
     }
-    XY next(-1, -1);
-    EXPECT_EQ(m.comparePart(&part, next), 2);
-    part.append({7, 3});
-    EXPECT_EQ(m.comparePart(&part, next), 0);
-    part.resize(2);
-    part[1] = {2, 2};
-    EXPECT_EQ(m.comparePart(&part, next), 0);
-    EXPECT_EQ(next, XY(-1, -1));
-    m.insPath({4, 4}, 1); // cuts the rest
+}
+
+TEST(LegalMove, WritingASquareCutsTheRest) {
+    LegalMove m = twoJumps();
+    const LegalMove copy = m;
+    m.insPath({4, 4}, 1);
     EXPECT_EQ(moveText(m), "(1,1)x(4,4)");
+    EXPECT_EQ(moveText(copy), "(1,1)x(3,3)x(5,1)");
+    QString notation;
+    copy.ToString(notation);
+    EXPECT_EQ(notation.toStdString(), "(1,1)->(5,1)");
 }
 
 } // namespace

@@ -58,20 +58,76 @@ const struct {
 TEST(Moves, RulePositions) {
     for (const auto &p : positions) {
         const char *const polish = p.polish != nullptr ? p.polish : p.international;
-        const char *const expected[] = {p.international, p.american, polish};
-        for (const RuleSet rules : allRuleSets) {
-            const std::string want = expected[static_cast<int>(rules)];
+        for (const auto &[rules, wanted] : {std::pair{RuleSet::International, p.international},
+                                            {RuleSet::American, p.american},
+                                            {RuleSet::Polish, polish}}) {
+            const std::string want = wanted;
             EngineRig rig(rules, p.picture);
             EXPECT_EQ(rig.engine->FillMoveList(), want.empty()) << p.name;
             EXPECT_EQ(moveText(rig.engine->moveList), want)
-                << p.name << ", rules " << static_cast<int>(rules);
-            EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos);
+                << p.name << ", " << rig.engine->className();
+            EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos) << p.name;
             EXPECT_EQ(rig.engine->getLegalMove(rig.engine->moveList.count()), nullptr);
-            if (p.after == nullptr || rules != RuleSet::International)
-                continue;
-            rig.engine->makeMove(&rig.position, rig.engine->getLegalMove(0));
-            EXPECT_EQ(picture(rig.position), picture(drawn(p.after))) << p.name;
         }
+    }
+}
+
+TEST(Moves, WhatAMoveLeaves) {
+    for (const auto &p : positions) {
+        if (p.after == nullptr)
+            continue;
+        EngineRig rig(RuleSet::International, p.picture);
+        rig.position.hashScore = 7;
+        rig.engine->FillMoveList();
+        rig.engine->makeMove(&rig.position, rig.engine->getLegalMove(0));
+        EXPECT_EQ(picture(rig.position), picture(drawn(p.after))) << p.name;
+        EXPECT_EQ(rig.position.plyCount, 1) << p.name;
+        EXPECT_EQ(rig.position.hashScore, 7) << p.name;
+    }
+}
+
+// The man on (1,1) could capture, the one on (3,1) is blocked, the king has nothing to mark.
+TEST(Moves, QuietMovesAloneAndTheMarksTheyLeave) {
+    for (const RuleSet rules : allRuleSets) {
+        EngineRig rig(rules, "w ...... ...... ...... b.b.b. .w.w.W ......");
+        rig.position.squares[3][1] |= codeCanMove;
+        rig.position.squares[0][2] |= codeCanMove;
+        QValueList<LegalMove> list;
+        list.append(LegalMove({9, 9}, {8, 8}));
+        EXPECT_TRUE(rig.engine->FillNotCapturingMoveList(&list, &rig.position));
+        EXPECT_EQ(moveText(list), "(5,1)-(4,0)");
+        EXPECT_EQ(rig.position.squares[3][1], whiteMan) << "cannot move";
+        EXPECT_EQ(rig.position.squares[0][2], blackMan | codeCanMove) << "not its turn";
+        rig.position.squares[2][2] = 0;
+        rig.engine->FillNotCapturingMoveList(&list, &rig.position);
+        EXPECT_EQ(moveText(list), "(1,1)-(2,2) (3,1)-(2,2) (5,1)-(4,0)");
+        EXPECT_EQ(rig.position.squares[1][1], whiteMan | codeCanMove);
+        EXPECT_EQ(rig.position.squares[5][1], whiteKing);
+    }
+}
+
+// As the last listing for the side to move has marked them.
+TEST(Moves, MenAboutToPass) {
+    const struct {
+        const char *name, *picture;
+        bool aboutToPass;
+    } cases[] = {
+        {"white, free", "w ...... w..... ...... ...... ...... ......", true},
+        {"white, blocked", "w .b.... w..... ...... ...... ...... ......", false},
+        {"white, two rows to go", "w ...... ...... .w.... ...... ...... ......", false},
+        {"a king", "w ...... W..... ...... ...... ...... ......", false},
+        {"black, free", "b ...... ...... ...... ...... .....b ......", true},
+        {"black, blocked", "b ...... ...... ...... ...... .....b ....w.", false},
+        {"black, two rows to go", "b ...... ...... ...... ....b. ...... ......", false},
+        {"white on black's last row but one", "w ...... ...... ...... ...... .w.... ......", false},
+    };
+    for (const auto &c : cases) {
+        EngineRig rig(RuleSet::International, c.picture);
+        EXPECT_FALSE(rig.engine->aboutToPass()) << c.name << ", before any listing";
+        rig.engine->FillMoveList();
+        EXPECT_EQ(rig.engine->aboutToPass(), c.aboutToPass) << c.name;
+        rig.position.whiteToMove = !rig.position.whiteToMove;
+        EXPECT_EQ(rig.engine->aboutToPass(), c.aboutToPass) << c.name << ", the other to move";
     }
 }
 
