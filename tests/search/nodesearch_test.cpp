@@ -132,7 +132,8 @@ TEST(Iterations, TheBestMoveOfTheLastOneComesFirst) {
     EXPECT_EQ(tree.engine->moveList.last().to().y, 1);
 }
 
-// 300 points behind cost half a ply, a value not known as much.
+// 300 points behind cost half a ply, a value not known as much. Engines are made with the full
+// budget and then get the reduced one.
 TEST(Iterations, WorseMovesAreSearchedLessDeep) {
     DrawnTree tree("((1) (2) (3))");
     tree.engine->FillMoveList();
@@ -143,6 +144,8 @@ TEST(Iterations, WorseMovesAreSearchedLessDeep) {
     EXPECT_EQ(tree.move('a').subEngine->depth, 25);
     EXPECT_EQ(tree.move('b').subEngine->depth, 30);
     EXPECT_EQ(tree.move('c').subEngine->depth, 25);
+    for (const char *made : {" a:30", " b:30", " c:30"})
+        EXPECT_NE(tree.cloned.find(made), std::string::npos) << made;
 }
 
 // Also in a game that is under way, and with an empty table in every iteration.
