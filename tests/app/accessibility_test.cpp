@@ -1,48 +1,29 @@
 // The game without a mouse or without eyes: keys, names and descriptions.
 
-#include "tests/app/gamerig.h"
+#include "tests/rig/gametest.h"
 
 #include "forms/fabout.h"
 
 #include <QAccessible>
 #include <QApplication>
-#include <QCheckBox>
-#include <QTimer>
 
 #include <algorithm>
 
 namespace {
 
-// To the window, or to the list that it has open.
-void keys(const QWidget &window, const QList<Qt::Key> &typed) {
-    for (const Qt::Key key : typed) {
-        const QWidget *list = QApplication::activePopupWidget();
-        QWindow *target = (list != nullptr ? list : &window)->windowHandle();
-        if (key < Qt::Key_Escape)
-            QTest::keyClick(target, static_cast<char>(key)); // with its text
-        else
-            QTest::keyClick(target, key);
-    }
-}
-
-QStringList focusOrder(const QWidget &window, int stops) {
+std::string focusOrder(const QWidget &window, int stops) {
     QStringList order;
-    for (; stops > 0; --stops, keys(window, {Qt::Key_Tab}))
-        order << QApplication::focusWidget()->objectName();
-    return order;
+    for (; stops > 0; --stops, Hand::type(&window, Qt::Key_Tab)) {
+        const auto *button = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        order << (button != nullptr && button->objectName().isEmpty()
+                      ? button->text().remove('&')
+                      : QApplication::focusWidget()->objectName());
+    }
+    return order.join(' ').toStdString();
 }
 
-QString textOf(QObject *object, QAccessible::Text kind) {
-    return QAccessible::queryAccessibleInterface(object)->text(kind);
-}
-
-bool hasName(QWidget *widget) {
-    const QString name = textOf(widget, QAccessible::Name);
-    const bool said =
-        std::any_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); });
-    const auto labels =
-        QAccessible::queryAccessibleInterface(widget)->relations(QAccessible::Label);
-    return said && (qobject_cast<QComboBox *>(widget) == nullptr || !labels.isEmpty());
+std::string textOf(QObject *object, QAccessible::Text kind) {
+    return QAccessible::queryAccessibleInterface(object)->text(kind).toStdString();
 }
 
 bool isPartOfAChooser(const QWidget *widget) {
@@ -52,23 +33,15 @@ bool isPartOfAChooser(const QWidget *widget) {
 
 class AccessibilityTest : public GameTest {
 protected:
-    AccessibilityTest() { activate(game); }
-
-    static void activate(QWidget &window) {
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
-
-    // Opens the settings with the keyboard and calls `act` while they are open.
-    void openSettings(const std::function<void(formsettings &)> &act) {
-        activate(game);
-        while (QApplication::focusWidget() != game.btnSettings)
+    // As many presses of Tab as it takes, then Space.
+    void pressWithKeys(const QPushButton *button) {
+        while (QApplication::focusWidget() != button)
             keys(game, {Qt::Key_Tab});
-        QTimer::singleShot(50, &game, [&] {
-            activate(*game.pSettings);
-            act(*game.pSettings);
-        });
         keys(game, {Qt::Key_Space});
+    }
+    void inSettings(const std::function<void()> &act) {
+        whileOpen(
+            game.pSettings.get(), [this] { pressWithKeys(game.btnSettings); }, act);
     }
 };
 
@@ -82,19 +55,12 @@ TEST_F(AccessibilityTest, TabGoesAsTheEye) {
     }
     press(game.btnPrev);
     game.btnPrev->setFocus();
-    EXPECT_EQ(focusOrder(game, 7).join(' ').toStdString(),
+    EXPECT_EQ(focusOrder(game, 7),
               "btnPrev btnFwd btnAbout btnForce btnSettings btnNewGame btnPrev");
-    openSettings([](formsettings &dialog) {
-        EXPECT_EQ(focusOrder(dialog, 5).join(' ').toStdString(),
-                  "cmbRules cmbSize cmbLevel cmbPlayers chGiveAway");
-        for (const char *button : {"OK", "Cancel"}) {
-            EXPECT_EQ(textOf(QApplication::focusWidget(), QAccessible::Name), button);
-            keys(dialog, {Qt::Key_Tab});
-        }
-        EXPECT_TRUE(dialog.cmbRules->hasFocus());
-        dialog.cmbRules->setEnabled(false);
-        EXPECT_EQ(focusOrder(dialog, 1).first(), "cmbSize");
-        dialog.cmbRules->setEnabled(true);
+    formsettings &dialog = *game.pSettings;
+    inSettings([&dialog] {
+        EXPECT_EQ(focusOrder(dialog, 8),
+                  "cmbRules cmbSize cmbLevel cmbPlayers chGiveAway OK Cancel cmbRules");
         keys(dialog, {Qt::Key_Escape});
     });
 }
@@ -109,71 +75,90 @@ TEST_F(AccessibilityTest, TheFocusIsBackWhereItWasWhenTheTurnIs) {
     }
 }
 
+TEST_F(AccessibilityTest, TheFocusIsGivenBackOnce) {
+    place(startOfTen, humans);
+    game.btnForce->setFocus();
+    keys(game, {Qt::Key_Space});
+    land();
+    keys(game, {Qt::Key_Tab});
+    EXPECT_EQ(game.focusWidget(), game.btnSettings);
+    taps("46 35");
+    land(2);
+    EXPECT_EQ(game.focusWidget(), game.btnSettings) << "where it was before this move";
+}
+
+TEST_F(AccessibilityTest, AKeyHeldDownPressesAButtonOnce) {
+    place(startOfTen, humans);
+    taps("53 44");
+    land();
+    host.answer = false;
+    game.btnNewGame->setFocus();
+    Hand::holdKey(&game, Qt::Key_Space, 5);
+    EXPECT_EQ(boxes(), newGameBox);
+}
+
 TEST_F(AccessibilityTest, SettingsAreChosenByKeyboardAlone) {
     using namespace Qt;
-    const auto choose = [](formsettings &dialog, Key american) {
-        keys(dialog, {american, Key_Tab, Key_F4, Key_Up, Key_Return, Key_Tab, Key_Home, Key_Down,
+    formsettings &dialog = *game.pSettings;
+    inSettings([&dialog] {
+        keys(dialog, {Key_Down, Key_Tab, Key_F4, Key_Up, Key_Return, Key_Tab, Key_Home, Key_Down,
                       Key_Tab, Key_Down, Key_Tab, Key_Space});
         EXPECT_EQ(textOf(QApplication::focusWidget(), QAccessible::Name), "Give Away");
-        EXPECT_TRUE(dialog.giveAway);
-    };
-    openSettings([&](formsettings &dialog) {
-        choose(dialog, Key_Down);
-        keys(dialog, {Key_Escape});
-    });
-    EXPECT_STREQ(game.pEngine->className(), "IntEngine");
-    EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
-    openSettings([&](formsettings &dialog) {
-        keys(dialog, {Key_Tab, Key_Tab, Key_Tab}); // it was left at "Give Away"
-        choose(dialog, Key_A);
         keys(dialog, {Key_Return});
     });
-    EXPECT_STREQ(game.pEngine->className(), "AmEngine");
+    EXPECT_EQ(request(), "AmEngine, depth 2, noise 400, give-away");
+    EXPECT_EQ(settingsText(game), "rules 1, size 1, level 1, players 1, give-away 1");
     EXPECT_EQ(status(), "[Your Move] 12/12 About Force Settings NewGame");
-    EXPECT_EQ(game.pStat->getReqDepth(), 2);
-    EXPECT_TRUE(game.pStat->giveAway);
-    EXPECT_EQ(game.whiteComputer + game.blackComputer, 0);
+}
+
+TEST_F(AccessibilityTest, EscapeAndReturnOnCancelRejectTheSettings) {
+    using namespace Qt;
+    formsettings &dialog = *game.pSettings;
+    const QList<Key> ways[] = {{Key_A, Key_Escape}, {Key_A, Key_Backtab, Key_Return}};
+    for (const QList<Key> &way : ways) {
+        inSettings([&] {
+            dialog.cmbRules->setFocus();
+            keys(dialog, way);
+        });
+        EXPECT_EQ(settingsText(game), "rules 0, size 2, level 3, players 0, give-away 0");
+        EXPECT_STREQ(game.pEngine->className(), "IntEngine");
+    }
 }
 
 TEST_F(AccessibilityTest, EveryControlHasAName) {
-    QTimer::singleShot(50, &game, [this] { game.findChild<fabout *>()->reject(); });
-    game.showAbout();
-    openSettings([](formsettings &dialog) { dialog.reject(); });
+    whileOpen(
+        game.pAbout, [this] { press(game.btnAbout); }, [this] { game.pAbout->reject(); });
+    reject({});
     int named = 0;
     for (QWidget *widget : game.findChildren<QWidget *>()) {
-        const auto role = QAccessible::queryAccessibleInterface(widget)->role();
+        QAccessibleInterface *control = QAccessible::queryAccessibleInterface(widget);
+        const QAccessible::Role role = control->role();
         if (role == QAccessible::Client || role == QAccessible::Grouping ||
             role == QAccessible::ScrollBar || isPartOfAChooser(widget))
             continue;
-        EXPECT_TRUE(hasName(widget)) << widget->metaObject()->className() << ' '
-                                     << widget->objectName().toStdString() << ' ' << role;
         ++named;
+        const std::string name = textOf(widget, QAccessible::Name);
+        EXPECT_TRUE(std::any_of(name.begin(), name.end(), ::isalnum))
+            << widget->objectName().toStdString();
+        if (role == QAccessible::ComboBox) {
+            EXPECT_FALSE(control->relations(QAccessible::Label).isEmpty()) << name;
+        }
     }
     EXPECT_EQ(named, 26);
     EXPECT_EQ(textOf(game.pView, QAccessible::Name), "Board");
 }
 
 TEST_F(AccessibilityTest, TheBoardIsDescribedAsItStands) {
-    const auto description = [this] {
-        return textOf(game.pView, QAccessible::Description).toStdString();
-    };
     game.setBSize(sixSquares);
-    const std::string start = "White to move. White 6, black 6. "
-                              "White men: (0,0) (2,0) (4,0) (1,1) (3,1) (5,1). "
-                              "Black men: (0,4) (2,4) (4,4) (1,5) (3,5) (5,5).";
-    EXPECT_EQ(description(), start);
     place("w .....b w..... .W.... ..b... ...... ......");
-    const std::string placed = description();
-    EXPECT_EQ(placed, "White to move. White 2, black 2. White men: (0,4). White kings: (1,3). "
-                      "Black men: (2,2) (5,5).");
+    const std::string placed = "White to move. White 2, black 2. White men: (0,4). "
+                               "White kings: (1,3). Black men: (2,2) (5,5).";
+    EXPECT_EQ(textOf(game.pView, QAccessible::Description), placed);
     taps("13 31");
     land();
-    EXPECT_EQ(description(),
+    EXPECT_EQ(textOf(game.pView, QAccessible::Description),
               "Black to move. White 2, black 1. White men: (0,4). White kings: (3,1). "
               "Black men: (5,5).");
     press(game.btnPrev);
-    EXPECT_EQ(description(), placed);
-    press(game.btnNewGame);
-    EXPECT_EQ(description(), start);
-    boxes();
+    EXPECT_EQ(textOf(game.pView, QAccessible::Description), placed);
 }

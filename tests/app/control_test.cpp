@@ -1,83 +1,87 @@
 // The buttons that take the game out of the players' hands, and the window's close button.
 
-#include "tests/app/gamerig.h"
+#include "tests/rig/gametest.h"
+
+#include "platform/guihost.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
 
 namespace {
 
-// Calls `act` once, in the middle of the search that comes next.
-void duringSearch(RecordingHost &host, std::function<void()> act) {
-    const int round = host.eventRounds + 3;
-    host.onEvents = [&host, round, act = std::move(act)] {
-        if (host.eventRounds == round)
-            act();
-    };
-}
+const char *const handedOver = "[Your Move] 20/20 Prev About Force Settings NewGame";
 
 } // namespace
 
-TEST_F(GameTest, BreakEndsALongSearchAndKeepsItsSide) {
-    game.setLevel(infinite);
-    int players = humans;
-    duringSearch(host, [this, &players] {
+class BreakTest : public GameTest {
+protected:
+    BreakTest() { game.setLevel(infinite); }
+
+    void expectHandedOver() {
+        EXPECT_EQ(game.pView->cursor().shape(), Qt::ArrowCursor);
+        land();
+        EXPECT_EQ(status(), handedOver);
+        EXPECT_EQ(game.whiteComputer, 1) << "the side that it thought for";
+        EXPECT_EQ(game.blackComputer, 0);
+        EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), humanComputer);
+    }
+};
+
+TEST_F(BreakTest, TheButtonEndsALongSearchAndNothingElseDoes) {
+    duringSearch([this] {
         EXPECT_EQ(status(), "[*** THINKING ***] 20/20 Break");
         EXPECT_EQ(game.pView->cursor().shape(), Qt::ForbiddenCursor);
         tap(5, 3);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        keys(game, {Qt::Key_Space});
+        for (QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnForce,
+                                    game.btnSettings, game.btnNewGame})
+            press(button);
         EXPECT_FALSE(AbstractEngine::breakThinking);
-        if (players == humans)
-            press(game.btnBreak);
-        else
-            QTest::keyClick(game.windowHandle(), Qt::Key_Escape);
+        press(game.btnBreak);
     });
-    game.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&game));
-    for (players = humans; players <= computers; ++players) {
-        place(startOfTen, players);
-        if (players == humans)
-            press(game.btnForce);
-        EXPECT_EQ(game.pView->cursor().shape(), Qt::ArrowCursor);
-        land();
-        EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
-        EXPECT_EQ(game.whiteComputer, 1);
-        EXPECT_EQ(game.blackComputer, 0);
-        EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), 0);
-        host.eventRounds = 0;
-    }
+    place(startOfTen, humans);
+    press(game.btnForce);
+    expectHandedOver();
 }
 
-TEST_F(GameTest, ForceMoveBringsTheComputerInForOneMoveOrWithBreakForTwo) {
-    const std::string after = "[Your Move] 20/20 Prev About Force Settings NewGame";
-    place(startOfTen, humans);
-    tap(5, 3);
-    press(game.btnForce);
-    EXPECT_EQ(marked(MarkNext), "");
-    land();
-    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), 0);
-    EXPECT_FALSE(game.pBoard->whiteToMove);
-    EXPECT_EQ(game.pHist->getBoard()->plyCount, 0) << "recorded before it is counted";
-    EXPECT_EQ(status(), after);
-    place(startOfTen, 0);
-    press(game.btnForce);
-    ASSERT_TRUE(game.flying());
-    EXPECT_EQ(status(), "[] 20/20 Break");
-    press(game.btnBreak);
-    land(2);
-    EXPECT_TRUE(game.pBoard->whiteToMove);
-    EXPECT_EQ(game.blackComputer, 1);
-    EXPECT_EQ(status(), after);
+// Held down, Escape counts once: in the flight that follows it would count for the other side.
+TEST_F(BreakTest, EscapeHeldDownIsOneBreak) {
+    duringSearch([this] { Hand::holdKey(&game, Qt::Key_Escape, 5); });
+    place(startOfTen, computers);
+    expectHandedOver();
 }
 
 // As slow as a person's: the press comes in one flight and the release in the next.
 TEST_F(GameTest, BreakHeldWhileAPieceLandsCounts) {
     place(startOfTen, computers);
     const QPoint at = game.btnBreak->geometry().center();
-    QTest::mousePress(game.windowHandle(), Qt::LeftButton, {}, at);
+    hand.press(&game, at);
     land();
-    QTest::mouseRelease(game.windowHandle(), Qt::LeftButton, {}, at);
-    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), 0);
+    hand.release(at);
+    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), humanComputer);
+}
+
+TEST_F(GameTest, ForceMoveBringsTheComputerInForOneMove) {
+    place(startOfTen, humans);
+    tap(5, 3);
+    press(game.btnForce);
+    EXPECT_EQ(marked(MarkNext), "") << "the move half entered is dropped";
+    EXPECT_EQ(status(), "[] 20/20 Break");
+    land();
+    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), humanComputer);
+    EXPECT_FALSE(game.pBoard->whiteToMove);
+    EXPECT_EQ(status(), handedOver);
+}
+
+TEST_F(GameTest, BreakInTheFlightBringsTheComputerInForTwo) {
+    place(startOfTen, humans);
+    press(game.btnForce);
+    press(game.btnBreak);
+    land(2);
+    EXPECT_TRUE(game.pBoard->whiteToMove);
+    EXPECT_EQ(game.blackComputer, 1);
+    EXPECT_EQ(status(), handedOver);
 }
 
 TEST_F(GameTest, NewGameAsksOnlyWhenThereIsAGameToLose) {
@@ -85,33 +89,40 @@ TEST_F(GameTest, NewGameAsksOnlyWhenThereIsAGameToLose) {
     EXPECT_EQ(boxes(), "");
     taps("53 44");
     land(2);
-    const std::string played = picture(*game.pBoard);
+    game.pStat->timeCredit = 5000;
+    const std::string played = position();
     host.answer = false;
     press(game.btnNewGame);
-    EXPECT_EQ(picture(*game.pBoard), played);
+    EXPECT_EQ(boxes(), newGameBox) << "one a click";
+    EXPECT_EQ(position(), played);
+    EXPECT_EQ(game.pStat->timeCredit, 5000);
     host.answer = true;
     press(game.btnNewGame);
-    EXPECT_EQ(boxes(), "confirm: confirm NewGame; confirm: confirm NewGame; ") << "one a click";
+    EXPECT_EQ(boxes(), newGameBox);
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
     EXPECT_EQ(shown(), picture(drawn(startOfTen)));
+    EXPECT_EQ(game.pStat->timeCredit, 0) << "a new game has saved no time yet";
 }
 
 // Closing, as the window's close button does it, at the worst moments: the event loop ends with
-// status 0 well within a second, and the game stays as it was.
+// status 0, and the game stays as it was.
 class ClosingTest : public GameTest {
 protected:
     void closesAtOnce(const std::function<void()> &act) {
         QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &game, &QCoreApplication::quit);
         game.setLevel(infinite);
+        const int ply = game.pBoard->plyCount;
         QTimer::singleShot(0, &game, act);
-        QTimer::singleShot(1000, &game, [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(20'000, &game, [] { QCoreApplication::exit(1); });
         EXPECT_EQ(QCoreApplication::exec(), 0);
-        EXPECT_EQ(game.pBoard->plyCount, 0);
+        EXPECT_EQ(game.pBoard->plyCount, ply);
+        for (const QWidget *window : QApplication::topLevelWidgets())
+            EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
     }
 };
 
 TEST_F(ClosingTest, WhileThinking) {
-    duringSearch(host, [this] { game.close(); });
+    duringSearch([this] { game.close(); });
     closesAtOnce([this] { press(game.btnForce); });
 }
 
@@ -127,7 +138,30 @@ TEST_F(ClosingTest, InFlight) {
 TEST_F(ClosingTest, WithSettingsOpenAndBothSidesTheComputers) {
     closesAtOnce([this] {
         game.pSettings->cmbPlayers->setCurrentIndex(computers);
-        QTimer::singleShot(50, &game, &QWidget::close);
-        game.showSettings();
+        QTimer::singleShot(0, &game, [this] {
+            EXPECT_TRUE(game.pSettings->isVisible());
+            game.close();
+        });
+        press(game.btnSettings);
     });
+}
+
+// The question is a real box here; it goes with the window, as if cancelled.
+TEST_F(ClosingTest, WithAQuestionOpen) {
+    taps("53 44");
+    land(2);
+    const std::string played = position();
+    closesAtOnce([this] {
+        GuiHost realBoxes;
+        setHost(&realBoxes);
+        QTimer::singleShot(0, &game, [this] {
+            const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+            game.close();
+        });
+        press(game.btnNewGame);
+        setHost(&host);
+    });
+    EXPECT_EQ(position(), played);
 }

@@ -1,9 +1,11 @@
 // Stepping through the history of the game.
 
-#include "tests/app/gamerig.h"
+#include "tests/rig/gametest.h"
+
+#include <QSignalSpy>
 
 TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
-    std::vector<std::string> positions = {picture(*game.pBoard)};
+    std::vector<std::string> positions = {position()};
     taps("53 44");
     for (int move = 0; move < 2; ++move) {
         land();
@@ -11,31 +13,43 @@ TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
     }
     for (const std::size_t at : {1U, 0U}) {
         press(game.btnPrev);
-        EXPECT_EQ(picture(*game.pBoard), positions[at]);
-        EXPECT_EQ(game.blackComputer, game.pBoard->whiteToMove);
-        EXPECT_NE(game.whiteComputer, game.blackComputer);
+        EXPECT_EQ(position(), positions[at]);
+        EXPECT_EQ(game.whiteComputer, game.pBoard->whiteToMove ? 0 : 1);
+        EXPECT_EQ(game.blackComputer, game.pBoard->whiteToMove ? 1 : 0);
         expectAgreement();
     }
     EXPECT_EQ(status(), "[Your Move] 20/20 Fwd About Force Settings NewGame");
     for (const std::size_t at : {1U, 2U}) {
         tap(5, 3);
         press(game.btnFwd);
-        EXPECT_EQ(picture(*game.pBoard), positions[at]);
-        EXPECT_EQ(marked(MarkNext), "");
+        EXPECT_EQ(position(), positions[at]);
+        EXPECT_EQ(marked(MarkNext), "") << "the move half entered is dropped";
     }
     EXPECT_FALSE(game.btnFwd->isEnabled());
+}
 
-    // A new move from the start replaces all that followed.
-    press(game.btnPrev);
+TEST_F(GameTest, AMoveFromAnEarlierPositionReplacesWhatFollowed) {
+    place(startOfTen, humans);
+    taps("53 44");
+    land();
     press(game.btnPrev);
     taps("13 24");
-    land(2);
-    EXPECT_FALSE(game.btnFwd->isEnabled());
+    land();
+    EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
     press(game.btnPrev);
-    press(game.btnPrev);
-    EXPECT_EQ(picture(*game.pBoard), positions[0]);
+    EXPECT_EQ(position(), picture(drawn(startOfTen)));
     press(game.btnFwd);
-    EXPECT_EQ(game.pBoard->squares[2][4] & codePiece, 5);
+    EXPECT_EQ(letterOf(game.pBoard->squares[2][4]), 'w');
+}
+
+TEST_F(GameTest, NewGameAtTheFirstPositionAsksNothing) {
+    place(startOfTen, humans);
+    taps("53 44");
+    land();
+    press(game.btnPrev);
+    press(game.btnNewGame);
+    EXPECT_EQ(boxes(), "");
+    EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
 }
 
 // The last black man is taken; one step back, the computers take it again at once.
@@ -44,9 +58,33 @@ TEST_F(GameTest, ComputersPlayOnFromAStepBackAfterTheEnd) {
     place("w ...... ...... ...... ..b... .w.... ......", computers);
     for (int round = 0; round < 2; ++round) {
         land();
-        EXPECT_EQ(boxes(), "Game Over: Game Over; ");
+        EXPECT_EQ(boxes(), gameOverBox);
         EXPECT_EQ(status(), "[] 1/0 Prev About Settings NewGame") << "hidden by the search";
         press(game.btnPrev);
-        ASSERT_TRUE(game.flying());
+        ASSERT_TRUE(game.flies());
     }
+}
+
+TEST(GameHist, EndsAreTold) {
+    gameHist history;
+    QSignalSpy noNext(&history, &gameHist::noNext);
+    QSignalSpy noPrevious(&history, &gameHist::noPrevious);
+    EXPECT_EQ(history.getBoard(), nullptr);
+    EXPECT_FALSE(history.prev());
+    const board positions[] = {board(6), board(8), board(10)};
+    for (const board &position : positions)
+        history.insert(&position);
+    EXPECT_FALSE(history.next());
+    EXPECT_EQ(noNext.count(), 1);
+    EXPECT_EQ(noPrevious.count(), 1);
+    EXPECT_TRUE(history.prev());
+    EXPECT_TRUE(history.canFwd());
+    EXPECT_EQ(history.getBoard()->size, 8);
+    EXPECT_TRUE(history.prev());
+    EXPECT_FALSE(history.canPrev());
+    EXPECT_EQ(history.getBoard()->size, 6);
+    history.clear();
+    EXPECT_EQ(history.getBoard(), nullptr);
+    EXPECT_FALSE(history.canFwd());
+    EXPECT_EQ(noPrevious.count(), 1);
 }

@@ -1,6 +1,6 @@
-// Hand: the user's mouse and keyboard.
-#ifndef TOOLS_MONKEY_HAND_H
-#define TOOLS_MONKEY_HAND_H
+// Hand: a person's mouse and keyboard.
+#ifndef TESTS_RIG_HAND_H
+#define TESTS_RIG_HAND_H
 
 #include <QPoint>
 #include <QPointer>
@@ -16,7 +16,7 @@ public:
     // What was pressed on is still there to release on.
     bool canRelease() const { return holds() && !pressedOn_.isNull(); }
 
-    void press(const QWidget *window, QPoint at, Qt::MouseButton button);
+    void press(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     // Moves with the button down, over the window that it was pressed on.
     void drag(QPoint to);
     void release(QPoint at);
@@ -24,11 +24,13 @@ public:
     void drop() { held_ = Qt::NoButton; }
     void click(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     // Two clicks within the double click interval.
-    void doubleClick(const QWidget *window, QPoint at, Qt::MouseButton button);
+    void doubleClick(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     // One step of the wheel, up or down, over a widget.
     static void turnWheel(QWidget *widget, bool up);
     // Into the window, which gets the keyboard's focus, if it is to be seen.
-    static void type(const QWidget *window, int key);
+    static void type(const QWidget *window, Qt::Key key);
+    // The key goes down and stays down for so many repeats; then it comes up.
+    static void holdKey(const QWidget *window, Qt::Key key, int repeats);
 
 private:
     void send(QEvent::Type type, QPoint at, Qt::MouseButtons down, Qt::MouseButton changed);

@@ -1,4 +1,4 @@
-#include "tools/monkey/hand.h"
+#include "tests/rig/hand.h"
 
 #include <QApplication>
 #include <QTest>
@@ -59,11 +59,24 @@ void Hand::turnWheel(QWidget *widget, bool up) {
     QApplication::sendEvent(widget, &event);
 }
 
-void Hand::type(const QWidget *window, int key) {
+void Hand::type(const QWidget *window, Qt::Key key) {
     if (!window->isVisible())
         return;
     // What a window manager does when another window closes.
     if (QGuiApplication::focusWindow() != window->windowHandle())
         window->windowHandle()->requestActivate();
-    QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(key));
+    if (key < Qt::Key_Escape) // a letter, with its text
+        QTest::keyClick(window->windowHandle(), static_cast<char>(key));
+    else
+        QTest::keyClick(window->windowHandle(), key);
+}
+
+void Hand::holdKey(const QWidget *window, Qt::Key key, int repeats) {
+    QWindow *keyboard = window->windowHandle();
+    qt_handleKeyEvent(keyboard, QEvent::KeyPress, key, Qt::NoModifier);
+    for (int repeat = 0; repeat < repeats; ++repeat) {
+        qt_handleKeyEvent(keyboard, QEvent::KeyRelease, key, Qt::NoModifier, {}, true);
+        qt_handleKeyEvent(keyboard, QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+    }
+    qt_handleKeyEvent(keyboard, QEvent::KeyRelease, key, Qt::NoModifier);
 }

@@ -1,6 +1,6 @@
 // Dice: the one source of chance; equal seeds, equal throws.
-#ifndef TOOLS_MONKEY_DICE_H
-#define TOOLS_MONKEY_DICE_H
+#ifndef TESTS_MONKEY_DICE_H
+#define TESTS_MONKEY_DICE_H
 
 #include <random>
 #include <vector>

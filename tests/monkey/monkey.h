@@ -1,0 +1,88 @@
+// Monkey: one run of random events over the whole game.
+#ifndef TESTS_MONKEY_MONKEY_H
+#define TESTS_MONKEY_MONKEY_H
+
+#include "platform/guihost.h"
+#include "tests/monkey/gamemodel.h"
+#include "tests/monkey/user.h"
+#include "tests/rig/opengame.h"
+
+#include <QDialog>
+#include <QPointer>
+
+#include <memory>
+
+class QPushButton;
+
+// What all runs together have seen.
+struct Tally {
+    int moves[3][4] = {}; // by rules and size
+    int searches[8] = {}; // by level
+    int gamesOver = 0, newGames = 0, breaks = 0, boxes = 0, restarts = 0;
+};
+
+// Has the user act, tells the model what reaches the game, and holds the game to it after each
+// event: a press on the board, a release on a button that is held down, a dialog that closes go to
+// the model before the game sees them. The first difference ends the program.
+//
+// It is the host of the program while it lives, with real boxes and a clock that only moves when
+// the program does something; the toolkit's timers stand still. So everything that happens follows
+// from the seed. Needs a QPEApplication on the offscreen platform.
+class Monkey : public GuiHost {
+    Q_OBJECT
+
+public:
+    // For a run of so many events. How a run goes depends on their number as well as on the seed:
+    // searches are broken off at the end.
+    Monkey(unsigned seed, int events, bool trace, Tally &tally);
+    ~Monkey() override;
+
+    // Ends the program when a check fails; otherwise the hash of all that happened.
+    std::uint64_t run();
+
+    // For the user.
+    OpenGame &game() { return *window_; }
+    GameModel &model() { return model_; }
+    Journal &journal() { return journal_; }
+    // Lets so many animation steps pass.
+    void passTime(int steps);
+
+    bool messageBox(BoxKind kind, const QString &title, const QString &text, BoxButtons buttons,
+                    QWidget *parent) override;
+    void processEvents() override; // inside a search
+    void beep() override {}
+    void pause(int microseconds) override { now_ += microseconds / 1000; }
+    qint64 clockMs() override { return now_; }
+    unsigned seed() override; // a search begins
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void openWindow();
+    void step();
+    void check();
+    void follow();
+    void runDialog(QDialog *dialog);
+    void leaveSettings(bool accepted);
+    void watchButton(const QPushButton &button, const QEvent *event);
+    void watchBoard(const QEvent *event);
+    void noteClick(const std::string &button);
+
+    Dice dice_;
+    Journal journal_;
+    Tally &tally_;
+    GameModel model_;
+    std::unique_ptr<OpenGame> window_;
+    User user_;
+    Host *previous_;
+    QPointer<QDialog> dialog_; // whose event loop runs
+    qint64 now_ = 0;
+    int checks_ = 0;
+    int rounds_ = 0;         // of events in the running search
+    bool searching_ = false; // until its move is known
+    bool timePasses_ = false;
+};
+
+#endif

@@ -1,0 +1,30 @@
+// Snapshots: all that is to be seen of the game, as text.
+#ifndef TESTS_MONKEY_SNAPSHOT_H
+#define TESTS_MONKEY_SNAPSHOT_H
+
+#include "rules/xy.h"
+#include "tests/rig/opengame.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+// Headings and what there is to say under each, in one or more lines.
+using Snapshot = std::vector<std::pair<std::string, std::string>>;
+
+// The window's. The thorough one also has the pixels, where nothing flies, and the whole history.
+// Of a window that was closed there is the position only, which has to stay.
+Snapshot snapshotOf(OpenGame &game, bool thorough);
+
+// Squares in order, each once: "(1,1) (2,2)".
+std::string inOrder(std::vector<XY> squares);
+
+// Every line behind its heading.
+std::string textOf(const Snapshot &snapshot);
+// The lines that differ, the model's before the window's; empty when there is none.
+std::string difference(const Snapshot &model, const Snapshot &window);
+
+// How the window must be laid out, whatever happens.
+inline constexpr const char *layoutInOrder = "8 9 8 8 8 8 8 points, bold, board at 0,0";
+
+#endif
