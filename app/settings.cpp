@@ -112,9 +112,11 @@ void Draughts::showSettings() {
     const Chosen before = chosenIn(*pSettings);
     showInWidgets(*pSettings, before);
     const bool accepted = pSettings->exec() == QDialog::Accepted;
+    const Chosen now = chosenIn(*pSettings);
+    if (!accepted)
+        putBack(*pSettings, before);
     if (phase_ == Phase::Closed)
         return;
-    const Chosen now = chosenIn(*pSettings);
     if (accepted) {
         pStat->giveAway = now.giveAway;
         if (now.level != before.level)
@@ -124,8 +126,6 @@ void Draughts::showSettings() {
         if (now.size != before.size)
             setBSize(now.size);
         setPlayersByChoice(pSettings->cmbPlayers->currentIndex());
-    } else {
-        putBack(*pSettings, before);
     }
     if (now.size == before.size)
         DoPlayerMove();

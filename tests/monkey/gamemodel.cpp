@@ -259,10 +259,9 @@ board GameModel::shownPosition() const {
 }
 
 std::string GameModel::phaseText() const {
-    if (phase == Phase::Thinking)
-        return "thinking";
+    constexpr const char *names[] = {"waiting", "thinking", "flying", "over", "closed"};
     if (phase != Phase::Flying)
-        return "resting";
+        return names[static_cast<int>(phase)];
     return "flying " + moveText(*flight) + " to " + inOrder({flight->path[leg]});
 }
 

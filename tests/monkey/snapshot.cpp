@@ -23,13 +23,15 @@
 namespace {
 
 std::string phaseText(const OpenGame &game) {
-    if (game.thinks())
-        return "thinking";
-    if (!game.flies())
-        return game.pMove == nullptr ? "resting" : "resting with a move left over";
+    constexpr const char *names[] = {"handing over", "waiting", "thinking", "broken off",
+                                     "chosen",       "flying",  "over",     "closed"};
+    std::string text = names[static_cast<int>(game.phase())];
+    if (game.pMove == nullptr)
+        return text;
     const XY from = game.pMove->from();
     const DrCanvasPiece &piece = *game.pieces[from.x][from.y];
-    return "flying " + moveText(*game.pMove) + " to " + inOrder({{piece.boardX(), piece.boardY()}});
+    text.append(" ").append(moveText(*game.pMove)).append(" to ");
+    return text.append(inOrder({{piece.boardX(), piece.boardY()}}));
 }
 
 // A piece at rest by its kind, one in flight as '*', one that is not where or as it must be as '?'.
