@@ -9,10 +9,7 @@
 #include <span>
 #include <string>
 
-struct Property {
-    const char *name;
-    void (*check)(Bytes &bytes);
-};
+using Property = void (*)(Bytes &bytes);
 
 // The properties of this program; the first byte of an input says which is meant. Their order is
 // part of the kept cases: new ones come last.

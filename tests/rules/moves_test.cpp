@@ -58,14 +58,18 @@ const struct {
 TEST(Moves, RulePositions) {
     for (const auto &p : positions) {
         const char *const polish = p.polish != nullptr ? p.polish : p.international;
-        for (const auto &[rules, wanted] : {std::pair{RuleSet::International, p.international},
-                                            {RuleSet::American, p.american},
-                                            {RuleSet::Polish, polish}}) {
-            const std::string want = wanted;
+        const struct {
+            RuleSet rules;
+            const char *engine;
+            std::string want;
+        } expected[] = {{RuleSet::International, "IntEngine", p.international},
+                        {RuleSet::American, "AmEngine", p.american},
+                        {RuleSet::Polish, "PolEngine", polish}};
+        for (const auto &[rules, engine, want] : expected) {
             EngineRig rig(rules, p.picture);
+            EXPECT_STREQ(rig.engine->className(), engine);
             EXPECT_EQ(rig.engine->FillMoveList(), want.empty()) << p.name;
-            EXPECT_EQ(moveText(rig.engine->moveList), want)
-                << p.name << ", " << rig.engine->className();
+            EXPECT_EQ(moveText(rig.engine->moveList), want) << p.name << ", " << engine;
             EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos) << p.name;
             EXPECT_EQ(rig.engine->getLegalMove(rig.engine->moveList.count()), nullptr);
         }

@@ -130,20 +130,4 @@ TEST(NodeTests, SenselessSacrifices) {
     }
 }
 
-TEST(Engines, ClonesAreOfTheSameRules) {
-    for (const auto &[rules, name] : {std::pair{RuleSet::International, "IntEngine"},
-                                      {RuleSet::American, "AmEngine"},
-                                      {RuleSet::Polish, "PolEngine"}}) {
-        EngineRig rig(rules, board(8));
-        board other(8);
-        const std::unique_ptr<AbstractEngine> clone(
-            rig.engine->selfClone(&other, 30, &rig.statistic, 8));
-        EXPECT_STREQ(clone->className(), name);
-        EXPECT_EQ(clone->depth, 30);
-        EXPECT_EQ(clone->size, 8);
-        EXPECT_EQ(clone->board, &other);
-        EXPECT_EQ(clone->statistic, &rig.statistic);
-    }
-}
-
 } // namespace

@@ -1,6 +1,5 @@
 // Searches as a whole: when and how they end, and what they leave.
 
-#include "rules/intengine.h"
 #include "tests/search/drawntree.h"
 
 #include <gtest/gtest.h>
@@ -177,22 +176,13 @@ TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
     }
 }
 
-// Rules of one's own that value nothing: every move's value is none.
-struct NothingEngine : IntEngine {
-    using IntEngine::IntEngine;
-    int materialScore(heuristic *) override { return Score::none; }
-    AbstractEngine *selfClone(::board *b, int budget, thinkStatistic *stat, int n) override {
-        return new NothingEngine(b, budget, stat, n);
-    }
-};
-
+// As rules of one's own might value it.
 TEST(Drivers, ASearchThatFindsNothingPlaysTheFirstMove) {
     for (const int mode : {timed, byDepth}) {
-        EngineRig rig(RuleSet::International, board(10));
-        rig.engine = std::make_unique<NothingEngine>(&rig.position, 1, &rig.statistic, 10);
-        request(rig, mode, 1);
-        EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
-        EXPECT_EQ(rig.score.value, Score::lost);
+        DrawnTree tree("(-1000777 -1000777 -1000777)");
+        request(tree, mode, 1);
+        EXPECT_EQ(tree.search(), "(0,11)-(0,0)");
+        EXPECT_EQ(tree.score.value, Score::lost);
     }
 }
 

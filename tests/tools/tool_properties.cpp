@@ -1,6 +1,7 @@
 // What users give the tools is either refused with a message or gives options and positions that
 // the tools can work with.
 
+#include "bits/bitposition.h"
 #include "tests/properties/editedtext.h"
 #include "tests/properties/harness.h"
 #include "tests/properties/situation.h"
@@ -11,30 +12,27 @@
 #include <QCommandLineParser>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace {
 
-void wantPlayable(const board &b, const std::string &where) {
-    for (int x = 0; x < b.size; ++x) {
-        for (int y = 0; y < b.size; ++y) {
-            constexpr int known[] = {0, whiteMan, whiteKing, blackMan, blackKing};
-            const int code = b.squares[x][y];
-            if (std::find(std::begin(known), std::end(known), code) == std::end(known))
-                reportFault("a square's code", where);
-            if (code != 0 && (x + y) % 2 != 0)
-                reportFault("a piece on a light square", where);
-        }
-    }
-    if (std::find(std::begin(allBoardSizes), std::end(allBoardSizes), b.size) ==
-        std::end(allBoardSizes))
-        reportFault("the size", where);
-    if (b.plyCount < 0 || b.whiteToMove != (b.plyCount % 2 == 0))
-        reportFault("the ply counter", where);
+void want(bool good, const char *what, const std::string &where) {
+    if (!good)
+        reportFault(what, where);
 }
 
-QStringList argumentsOf(const std::string &line) {
-    return QStringList("program") + QString::fromStdString(line).split(' ');
+// What the bit sets can hold is a good position.
+void wantPlayable(const board &b, const std::string &where) {
+    want(BitPosition<6>::representable(b) || BitPosition<8>::representable(b) ||
+             BitPosition<10>::representable(b) || BitPosition<12>::representable(b),
+         "a bad position was accepted", where);
+    want(b.plyCount >= 0, "a negative ply counter was accepted", where);
+    want(b.whiteToMove == (b.plyCount % 2 == 0), "the wrong side is to move", where);
+}
+
+bool parse(QCommandLineParser &parser, const std::string &line) {
+    const bool good =
+        parser.parse(QStringList("program") + QString::fromStdString(line).split(' '));
+    want(good || !parser.errorText().isEmpty(), "refused without a message", line);
+    return good;
 }
 
 void perftArguments(Bytes &bytes) {
@@ -44,11 +42,10 @@ void perftArguments(Bytes &bytes) {
     QCommandLineParser parser;
     describePerft(parser);
     PerftOptions options;
-    if (!parser.parse(argumentsOf(line)) || !readPerftOptions(parser, options).isEmpty() ||
+    if (!parse(parser, line) || !readPerftOptions(parser, options).isEmpty() ||
         options.standardInput)
         return;
-    if (options.depth < 1 || options.depth > 30)
-        reportFault("the depth", line);
+    want(options.depth >= 1 && options.depth <= 30, "the depth", line);
     wantPlayable(options.position, line);
 }
 
@@ -57,35 +54,27 @@ void benchArguments(Bytes &bytes) {
     QCommandLineParser parser;
     describeBench(parser);
     BenchOptions options;
-    QString error;
-    if (!parser.parse(argumentsOf(line)) || !readBenchOptions(parser, options).isEmpty())
+    if (!parse(parser, line) || !readBenchOptions(parser, options).isEmpty())
         return;
-    if (options.depth < 0 || options.depth > mostDepth || options.seconds < 0)
-        reportFault("depth or time", line);
-    if (tasksText(options, error).isEmpty() && error.isEmpty() && options.file != "/dev/null")
-        reportFault("a file without tasks and without a message", line);
+    want(options.depth >= 0 && options.depth <= mostDepth, "the depth", line);
+    want(options.seconds >= 0, "the time", line);
+    QString error;
+    want(!tasksText(options, error).isEmpty() || !error.isEmpty(), "no tasks, no message", line);
 }
 
 void benchTasks(Bytes &bytes) {
     const Edits edits(bytes);
     const std::string text = edits.of(describe(readSituation(bytes)));
     QString error;
-    const QList<BenchTask> tasks = readTasks(QString::fromStdString(text), error);
-    if (tasks.isEmpty() && error.isEmpty() && !text.empty() && text.find('#') == text.npos &&
-        text.find_first_not_of(" \t\n") != text.npos)
-        reportFault("no task and no message", text);
-    for (const BenchTask &task : tasks) {
+    for (const BenchTask &task : readTasks(QString::fromStdString(text), error)) {
         wantPlayable(task.position, text);
-        if (task.depth < 1 || task.depth > mostDepth)
-            reportFault("a task's depth", text);
+        want(task.depth >= 1 && task.depth <= mostDepth, "a task's depth", text);
     }
 }
 
 } // namespace
 
 std::span<const Property> properties() {
-    static constexpr Property all[] = {{"perft-arguments", perftArguments},
-                                       {"bench-arguments", benchArguments},
-                                       {"bench-tasks", benchTasks}};
+    static constexpr Property all[] = {perftArguments, benchArguments, benchTasks};
     return all;
 }
