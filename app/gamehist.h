@@ -34,7 +34,7 @@ signals:
     void noNext();     // next() has failed
     void noPrevious(); // prev() has failed
 
-private:
+protected:
     QValueList<board>::iterator current;
     QValueList<board> positions;
 };

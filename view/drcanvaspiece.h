@@ -56,11 +56,7 @@ public:
     int rtti() const override { return Rtti; }
     QRect boundingRect() const override;
 
-private:
-    DrCanvas *boardCanvas() const;
-    void endLeg();
-    void drawCross(QPainter &p, const QRect &square) const;
-
+protected:
     int bx = 0;
     int by = 0;
     int w;
@@ -71,6 +67,11 @@ private:
     QArray<XY> *dancePath = nullptr; // null when idle
     int danceIndex = -1;             // of the current leg's target in dancePath
     Draughts *controller;
+
+private:
+    DrCanvas *boardCanvas() const;
+    void endLeg();
+    void drawCross(QPainter &p, const QRect &square) const;
 };
 
 #endif

@@ -32,7 +32,6 @@ protected:
     // Presses on other squares and beyond the board's squares are not reported.
     void contentsMousePressEvent(QMouseEvent *e) override;
 
-private:
     boardMetrics *metrics;
 };
 
