@@ -122,8 +122,8 @@ void DrCanvas2::ownedBy(int bx, int by, int owner) {
 void DrCanvas2::reset() {
     for (int bx = 0; bx < maxBoardSize; ++bx) {
         for (int by = 0; by < maxBoardSize; ++by) {
-            ownedBy(bx, by, 0);
             marks[bx][by] = MarkNone;
+            ownedBy(bx, by, 0);
         }
     }
 }

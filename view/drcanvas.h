@@ -65,7 +65,7 @@ public:
     // Colours a playing square for its owner: 4 white, 8 black, anything else nobody. A square
     // marked MarkNext stays in that mark's colour. Ignores the squares that markSQ ignores.
     void ownedBy(int bx, int by, int owner);
-    // Shows every square as nobody's and takes all marks off.
+    // Takes all marks off and shows every square as nobody's.
     void reset();
 };
 

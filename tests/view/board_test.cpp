@@ -1,5 +1,7 @@
-// What the board shows, pixel by pixel, how its pieces fly, and which taps it reports.
+// What the board shows, how its pieces fly, and which taps it reports.
 
+#include "rules/board.h"
+#include "tests/support/recordinghost.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"
 #include "view/drcanvaspiece.h"
@@ -7,167 +9,218 @@
 
 #include <gtest/gtest.h>
 
-#include <QImage>
-#include <QMap>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QSignalSpy>
 
-#include <memory>
-#include <tuple>
+#include <cmath>
 
 namespace {
 
+// 10 x 10 squares of 23 pixels.
 struct BoardTest : testing::Test {
+    RecordingHost host;
     boardMetrics metrics{10, 230, 230};
     DrCanvas2 canvas{&metrics};
     MyCanvasView view{&canvas, nullptr, &metrics};
 
+    // The canvas deletes it.
     DrCanvasPiece *place(int code, int bx, int by) {
         auto *piece = new DrCanvasPiece(23, 23, &canvas, nullptr, &metrics);
         piece->setType(code);
         piece->setBoardPos(bx, by);
         return piece;
     }
+    // The colour at (dx, dy) of a square; there is nothing but the square's own at (1, 1).
+    std::string colour(int bx, int by, int dx = 1, int dy = 1) {
+        const QPoint at(bx * 23 + dx, (9 - by) * 23 + dy);
+        return view.viewport()->grab().toImage().pixelColor(at).name().toStdString();
+    }
 };
 
-// The board is the largest whole number of squares; every pixel of a square leads back to it.
-TEST_F(BoardTest, PixelsAndSquaresLeadToEachOther) {
-    const struct { int size, square; } cases[] = {{6, 38}, {8, 28}, {10, 23}, {12, 19}};
-    boardMetrics &m = metrics;
-    for (int round = 0; round < 8; ++round) {
-        const bool flipped = round >= 4;
-        const auto [size, square] = cases[round % 4];
-        SCOPED_TRACE(testing::Message() << size << (flipped ? " flipped" : ""));
-        m.size = size;
-        m.setWH(230, 200); // squares that are not square
-        m.flipBoard(flipped);
-        EXPECT_EQ(m.getW(), square * size);
-        EXPECT_EQ(m.BxToScr(0), flipped ? square * (size - 1) : 0);
-        EXPECT_EQ(m.ByToScr(size - 1), flipped ? 200 / size * (size - 1) : 0);
-        for (int b = 0; b < size; ++b) {
-            for (const int inset : {0, 200 / size - 1}) {
-                EXPECT_EQ(m.ScrToBx(m.BxToScr(b) + inset), b);
-                EXPECT_EQ(m.ScrToBy(m.ByToScr(b) + inset), b);
-            }
-        }
-    }
-    EXPECT_DOUBLE_EQ(m.DistanceB(0, 0, 3, 0), 3 * 19);
-}
-
-TEST_F(BoardTest, SquaresTakeTheColoursOfMarksAndOwners) {
-    const std::tuple<int, int, MarkType, int, const char *, const char *> cases[] = {
-        {2, 4, MarkNext, 4, "#6c6cff", "#6c6cff"},
-        {4, 4, MarkPath, 4, "#ff6c6c", "#6c806c"},
-        {5, 5, MarkNone, 8, "#767676", "#806c6c"},
-        {0, 0, MarkNone, 0, "#767676", "#6c6c6c"},
-        {3, 4, MarkNext, 8, "#8a8a8a", "#8a8a8a"}};
-    for (const auto &[bx, by, mark, owner, marked, owned] : cases) {
-        const QPoint at(metrics.BxToScr(bx) + 1, metrics.ByToScr(by) + 1);
-        const auto fill = [&] { return view.viewport()->grab().toImage().pixelColor(at).name(); };
-        canvas.markSQ(bx, by, mark);
-        EXPECT_EQ(fill(), marked) << bx << ',' << by;
-        EXPECT_EQ(canvas.isMarked(bx, by), (bx + by) % 2 == 0 ? mark : MarkNone);
-        canvas.ownedBy(bx, by, owner);
-        EXPECT_EQ(fill(), owned) << bx << ',' << by;
-    }
-    for (const XY outside : {XY(-1, -1), XY(10, 10), XY(0, 10), XY(12, 12)}) {
-        canvas.markSQ(outside.x, outside.y, MarkNext);
-        canvas.ownedBy(outside.x, outside.y, 4);
-        EXPECT_EQ(canvas.isMarked(outside.x, outside.y), MarkNone);
-    }
-}
-
-// Along the middle of the square from pixel (46, 161), its black outline included.
-TEST_F(BoardTest, PiecesAreDiscsOfSeventeenPixelsWithCentreAndCross) {
-    const std::pair<int, const char *> cases[] = {
-        {5, "#..wwwwwwwwwwwwwwwww..#"},      {9, "#..#################..#"},
-        {6, "#..wwwwrrrrrrrrrwwww..#"},      {10, "#..####rrrrrrrrr####..#"},
-        {5 + 16, "#..wwwwwwxxxxxwwwwww..#"}, {10 + 16, "#..####rrxxxxxrr####..#"},
-    };
-    const QMap<QRgb, char> letters = {{qRgb(0, 0, 0), '#'},
-                                      {qRgb(255, 255, 255), 'w'},
-                                      {qRgb(255, 0, 0), 'r'},
-                                      {qRgb(0, 255, 0), 'x'},
-                                      {qRgb(118, 118, 118), '.'}};
-    for (const auto &[code, middle] : cases) {
-        const std::unique_ptr<DrCanvasPiece> piece(place(code, 2, 2));
-        const QImage square = view.viewport()->grab(QRect(46, 161, 23, 23)).toImage();
-        std::string row, column;
-        for (int at = 0; at < 23; ++at) {
-            row += letters.value(square.pixel(at, 11), '?');
-            column += letters.value(square.pixel(11, at), '?');
-        }
-        EXPECT_EQ(row, middle) << code;
-        EXPECT_EQ(column, middle) << code;
-    }
-}
-
-TEST_F(BoardTest, PressesBecomePlayingSquares) {
-    QSignalSpy taps{&view, &MyCanvasView::clickedBxy};
-    metrics.size = 8; // 28 pixels a square, a strip of 6 over
-    const std::pair<QPointF, QVariantList> cases[] = {
-        {{27.67, 196.67}, {0, 0, false}},
-        {{28, 195}, {1, 1, false}},
-        {{223, 0}, {7, 7, false}},
-        {{0, 223}, {0, 0, true}}, // with the right button
-        {{28, 223}, {}},
-        {{225, 0}, {}},
-        {{0, 225}, {}}};
-    for (const auto &[at, tap] : cases) {
-        const auto button = tap.value(2).toBool() ? Qt::RightButton : Qt::LeftButton;
-        // A second quick press arrives as a double click.
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-            taps.clear();
-            QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), button, button, {});
-            QCoreApplication::sendEvent(view.viewport(), &event);
-            EXPECT_EQ(taps.value(0), tap) << at.x() << ',' << at.y();
-        }
-    }
-}
-
+// A fifth of a square's diagonal a step, and one step more to end the leg.
 struct FlightTest : BoardTest {
-    // Sends a new piece from (1,1) on its way along "44 24": columns and rows.
-    DrCanvasPiece *launch(const std::string &squares) {
+    // Sends a new piece from (1,1) on its way.
+    void launch(std::initializer_list<XY> squares) {
         path.resize(0);
-        for (std::size_t i = 0; i < squares.size(); i += 3)
-            path.append({squares[i] - '0', squares[i + 1] - '0'});
-        DrCanvasPiece *piece = place(5, 1, 1);
+        for (const XY &square : squares)
+            path.append(square);
+        piece = place(whiteMan, 1, 1);
         piece->setDanceTo(&path);
-        return piece;
     }
-    // The number of steps until the piece rests on its square, or 1000 when it never does.
-    int stepsToEnd(DrCanvasPiece *piece, int bx, int by) {
-        int steps = 0;
-        for (; piece->isDancing() && steps < 1000; ++steps) {
+    void step(int steps) {
+        for (; steps > 0; --steps) {
             piece->advance(0);
             piece->advance(1);
         }
-        EXPECT_EQ(XY(piece->boardX(), piece->boardY()), XY(bx, by));
-        EXPECT_EQ(piece->boundingRect(), QRect(metrics.BxToScr(bx), metrics.ByToScr(by),
-                                               metrics.SquareWidthB(), metrics.SquareHeightB()));
-        EXPECT_EQ(piece->z(), 1);
-        return steps;
     }
 
+    DrCanvasPiece *piece = nullptr;
     QArray<XY> path;
     QSignalSpy flights{&canvas, &DrCanvas::signalFly};
     QSignalSpy dances{&canvas, &DrCanvas::signalDance};
 };
 
-TEST_F(FlightTest, OneSquareTakesSixStepsWithItsEndsMarked) {
-    DrCanvasPiece *piece = launch("22");
-    EXPECT_EQ(canvas.isMarked(1, 1), MarkPath);
-    for (int step = 1; step <= 5; ++step) {
-        piece->advance(1);
-        EXPECT_EQ(piece->z(), 2);
-        EXPECT_NEAR(piece->x(), 23 + step * 23 / 5.0, 1e-9);
-        EXPECT_NEAR(piece->y(), 184 - step * 23 / 5.0, 1e-9);
-        EXPECT_EQ(canvas.isMarked(2, 2), MarkNone);
+struct TapTest : BoardTest {
+    // What a press at a pixel reports: column, row, whether with the right button.
+    QVariantList press(QPointF at, Qt::MouseButton button = Qt::LeftButton) {
+        QSignalSpy taps(&view, &MyCanvasView::clickedBxy);
+        QMouseEvent event(QEvent::MouseButtonPress, at, at, button, button, {});
+        QCoreApplication::sendEvent(view.viewport(), &event);
+        return taps.value(0);
     }
-    EXPECT_EQ(dances.count(), 0);
-    EXPECT_EQ(stepsToEnd(piece, 2, 2), 1);
-    EXPECT_EQ(canvas.isMarked(2, 2), MarkPath);
-}
+    const QVariantList nothing;
+};
 
 } // namespace
+
+TEST_F(BoardTest, MarksAndOwnersColourPlayingSquares) {
+    const struct {
+        MarkType mark;
+        std::string marked;
+        int owner;
+        std::string owned;
+    } cases[] = {{.mark = MarkNext, .marked = "#6c6cff", .owner = 4, .owned = "#6c806c"},
+                 {.mark = MarkPath, .marked = "#ff6c6c", .owner = 8, .owned = "#806c6c"},
+                 {.mark = MarkNone, .marked = "#767676", .owner = 0, .owned = "#6c6c6c"}};
+    for (const auto &square : cases) {
+        canvas.markSQ(2, 4, square.mark);
+        EXPECT_EQ(canvas.isMarked(2, 4), square.mark);
+        EXPECT_EQ(colour(2, 4), square.marked);
+        canvas.reset();
+        EXPECT_EQ(canvas.isMarked(2, 4), MarkNone);
+        EXPECT_EQ(colour(2, 4), "#6c6c6c") << "nobody's";
+        canvas.ownedBy(2, 4, square.owner);
+        EXPECT_EQ(colour(2, 4), square.owned);
+    }
+}
+
+TEST_F(BoardTest, OtherSquaresTakeNoMarks) {
+    for (const XY square : {XY(3, 4), XY(-1, -1), XY(10, 10), XY(0, 10), XY(12, 12)}) {
+        canvas.markSQ(square.x, square.y, MarkNext);
+        canvas.ownedBy(square.x, square.y, 4);
+        EXPECT_EQ(canvas.isMarked(square.x, square.y), MarkNone) << square.x << ',' << square.y;
+    }
+    EXPECT_EQ(colour(3, 4), "#8a8a8a");
+}
+
+TEST_F(BoardTest, SquaresLaidOutAnewKeepTheirMarks) {
+    canvas.markSQ(0, 8, MarkNext);
+    metrics.setWH(100, 230); // squares of 10 x 23 pixels
+    canvas.resizeSquares();
+    EXPECT_EQ(colour(0, 8, 8), "#6c6cff");
+    EXPECT_EQ(colour(0, 8, 11), "#8a8a8a");
+}
+
+// Of 23 pixels the body leaves 3 free on each side and the king's centre 7. Along the middle of the
+// square, its outline included.
+TEST_F(BoardTest, PiecesAreDiscsWithCentreAndCrossUntilDeleted) {
+    const std::pair<int, const char *> cases[] = {
+        {whiteMan, "#..wwwwwwwwwwwwwwwww..#"},
+        {blackMan, "#..#################..#"},
+        {whiteKing, "#..wwwwrrrrrrrrrwwww..#"},
+        {blackKing, "#..####rrrrrrrrr####..#"},
+        {blackKing | codeTaken, "#..####rrxxxxxrr####..#"},
+    };
+    const std::map<std::string, char> letters = {
+        {"#000000", '#'}, {"#ffffff", 'w'}, {"#ff0000", 'r'}, {"#00ff00", 'x'}, {"#767676", '.'}};
+    DrCanvasPiece *piece = place(whiteMan, 2, 2);
+    for (const auto &[code, middle] : cases) {
+        piece->setType(code);
+        std::string row, column;
+        for (int at = 0; at < 23; ++at) {
+            row += letters.at(colour(2, 2, at, 11));
+            column += letters.at(colour(2, 2, 11, at));
+        }
+        EXPECT_EQ(row, middle) << code;
+        EXPECT_EQ(column, middle) << code;
+    }
+    delete piece;
+    EXPECT_EQ(colour(2, 2, 11, 11), "#767676");
+}
+
+TEST_F(BoardTest, CrossCoversTheMiddleThird) {
+    place(whiteMan | codeTaken, 2, 2);
+    for (const auto &[dx, dy] : {std::pair(7, 7), {15, 15}, {7, 15}, {15, 7}})
+        EXPECT_EQ(colour(2, 2, dx, dy), "#00ff00") << dx << ',' << dy;
+    for (const auto &[dx, dy] : {std::pair(6, 6), {16, 16}, {6, 16}, {16, 6}, {7, 11}})
+        EXPECT_EQ(colour(2, 2, dx, dy), "#ffffff") << dx << ',' << dy;
+}
+
+TEST_F(BoardTest, PieceWithoutACodeReportsItselfAndIsNotDrawn) {
+    place(0, 2, 2);
+    EXPECT_EQ(colour(2, 2, 11, 11), "#767676");
+    EXPECT_EQ(host.boxes.at(0), (RecordingHost::Box{BoxKind::Warning, "draw", "type == 0"}));
+}
+
+TEST_F(FlightTest, LegsTakeTimeInProportionToTheirLength) {
+    const struct {
+        XY target;
+        int steps;
+    } legs[] = {{.target = {2, 2}, .steps = 6},
+                {.target = {9, 9}, .steps = 41},
+                {.target = {1, 5}, .steps = 15}}; // 14 steps of 6.5 of 92 pixels
+    for (const auto &leg : legs) {
+        launch({leg.target});
+        step(3);
+        EXPECT_NEAR(std::hypot(piece->x() - 23, piece->y() - 184), 3 * 23 * std::sqrt(2) / 5, 1e-9);
+        step(leg.steps - 4);
+        EXPECT_TRUE(piece->isDancing()) << leg.steps;
+        step(1);
+        EXPECT_FALSE(piece->isDancing()) << leg.steps;
+        EXPECT_EQ(piece->CalcDistance(), 0);
+    }
+}
+
+TEST_F(FlightTest, SquaresAreMarkedAndLegsReportedAsThePieceReachesThem) {
+    launch({{2, 2}, {3, 3}});
+    EXPECT_EQ(canvas.isMarked(1, 1), MarkPath);
+    step(5);
+    EXPECT_EQ(canvas.isMarked(2, 2), MarkNone);
+    EXPECT_EQ(flights.count(), 0);
+    step(1);
+    EXPECT_EQ(canvas.isMarked(2, 2), MarkPath);
+    EXPECT_EQ(flights.count(), 1);
+    EXPECT_EQ(dances.count(), 0);
+    step(6);
+    EXPECT_EQ(canvas.isMarked(3, 3), MarkPath);
+    EXPECT_EQ(flights.count(), 2);
+    EXPECT_EQ(dances.count(), 1);
+}
+
+// At rest the piece made later is on top.
+TEST_F(FlightTest, FlyingPieceIsDrawnAboveTheOthers) {
+    launch({{3, 3}});
+    place(blackMan, 2, 2);
+    step(5);
+    EXPECT_EQ(piece->z(), 2);
+    EXPECT_EQ(colour(2, 2, 11, 11), "#ffffff");
+    step(6);
+    EXPECT_EQ(piece->z(), 1);
+}
+
+TEST_F(FlightTest, SecondDanceIsRefused) {
+    launch({{2, 2}});
+    piece->setDanceTo(&path);
+    EXPECT_EQ(host.boxes.at(0),
+              (RecordingHost::Box{BoxKind::Warning, "DrCanvasPiece::setDanceTo", "still busy"}));
+    step(6);
+    EXPECT_EQ(piece->boundingRect(), QRect(46, 161, 23, 23));
+}
+
+TEST_F(TapTest, PressesBecomePlayingSquares) {
+    EXPECT_EQ(press({22.67, 207.33}), QVariantList({0, 0, false}));
+    EXPECT_EQ(press({23, 206}), QVariantList({1, 1, false}));
+    EXPECT_EQ(press({229, 0}), QVariantList({9, 9, false}));
+    EXPECT_EQ(press({23, 229}), nothing) << "a light square";
+    EXPECT_EQ(press({0, 229}, Qt::RightButton), QVariantList({0, 0, true}));
+}
+
+// 8 squares of 28 pixels leave a strip of 6. The points in it lie where playing squares would go
+// on: in column 8 of row 6, and in column 1 of the row below the board.
+TEST_F(TapTest, StripBeyondTheSquaresIsDead) {
+    metrics.size = 8;
+    EXPECT_EQ(press({223, 0}), QVariantList({7, 7, false}));
+    EXPECT_EQ(press({225, 30}), nothing);
+    EXPECT_EQ(press({30, 225}), nothing);
+}

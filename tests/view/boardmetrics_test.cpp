@@ -1,0 +1,44 @@
+// Squares and pixels.
+
+#include "view/boardmetrics.h"
+
+#include <gtest/gtest.h>
+
+TEST(BoardMetrics, BoardIsTheLargestWholeNumberOfSquares) {
+    constexpr struct {
+        int size, square, board;
+    } cases[] = {{6, 38, 228}, {8, 28, 224}, {10, 23, 230}, {12, 19, 228}};
+    boardMetrics metrics(6, 240, 240);
+    EXPECT_EQ(metrics.size, 7) << "the constructor's least";
+    for (const auto &[size, square, board] : cases) {
+        metrics.size = size;
+        metrics.setWH(230, 230);
+        EXPECT_EQ(metrics.size, size);
+        EXPECT_EQ(metrics.SquareWidthB(), square);
+        EXPECT_EQ(metrics.SquareHeightB(), square);
+        EXPECT_EQ(metrics.getW(), board);
+        EXPECT_EQ(metrics.getH(), board);
+    }
+}
+
+TEST(BoardMetrics, RowZeroIsAtTheBottomUnlessFlipped) {
+    boardMetrics metrics(10, 230, 200); // squares of 23 x 20 pixels
+    EXPECT_EQ(metrics.BxToScr(9), 207);
+    EXPECT_EQ(metrics.ByToScr(0), 180);
+    EXPECT_FALSE(metrics.flipBoard(true));
+    EXPECT_EQ(metrics.BxToScr(9), 0);
+    EXPECT_EQ(metrics.ByToScr(0), 0);
+    EXPECT_TRUE(metrics.flipBoard(false));
+}
+
+TEST(BoardMetrics, EveryPixelOfASquareLeadsBackToIt) {
+    boardMetrics metrics(10, 230, 230);
+    for (const bool flipped : {false, true}) {
+        metrics.flipBoard(flipped);
+        for (int pixel = 0; pixel < 230; ++pixel) {
+            const int square = pixel / 23 * 23;
+            EXPECT_EQ(metrics.BxToScr(metrics.ScrToBx(pixel)), square) << pixel;
+            EXPECT_EQ(metrics.ByToScr(metrics.ScrToBy(pixel)), square) << pixel;
+        }
+    }
+}
