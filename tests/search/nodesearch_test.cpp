@@ -111,6 +111,7 @@ TEST(CutOffs, TheRecordHasTheWindowAtEntry) {
     EXPECT_EQ(tree.position.hashAlpha, none) << "a negated none is none";
     EXPECT_EQ(tree.position.hashBeta, -50);
     EXPECT_EQ(tree.position.hashHorizon, 47);
+    EXPECT_EQ(tree.move('a').score, none) << "not searched any more";
 }
 
 TEST(Iterations, ADecidedMoveKeepsItsValueAndIsNotSearchedAgain) {
