@@ -227,6 +227,12 @@ void GameModel::answer(bool confirmed) {
         newGame();
 }
 
+void GameModel::reopen() {
+    phase = interrupted;
+    if (phase == Phase::Thinking)
+        handTurn();
+}
+
 bool GameModel::breakShown() const {
     return phase == Phase::Thinking || (phase == Phase::Flying && afterSearch);
 }

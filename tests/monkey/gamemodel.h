@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // The items of the settings dialog.
@@ -44,7 +45,9 @@ public:
     // A box has opened, and is answered.
     void openBox();
     void answer(bool confirmed);
-    void close() { phase = Phase::Closed; }
+    // The window is closed, and shown again: the game goes on; who was thinking thinks anew.
+    void close() { interrupted = std::exchange(phase, Phase::Closed); }
+    void reopen();
 
     // The computer plays `m`.
     void begin(const LegalMove &m);
@@ -95,7 +98,8 @@ private:
     std::size_t cursor = 0;
     std::string status;
     bool statusShown = true;
-    Open due = Open::Nothing; // a box that has to open
+    Open due = Open::Nothing;           // a box that has to open
+    Phase interrupted = Phase::Waiting; // of a closed window
 };
 
 #endif

@@ -56,10 +56,10 @@ std::uint64_t Monkey::run() {
     openWindow();
     while (!journal_.isOver()) {
         step();
-        if (window_->isClosed()) {
-            ++tally_.restarts;
-            openWindow();
-        }
+        if (!window_->isClosed())
+            continue;
+        ++tally_.restarts;
+        dice_.oneIn(2) ? openWindow() : showAgain();
     }
     window_.reset();
     return journal_.hash();
@@ -67,6 +67,7 @@ std::uint64_t Monkey::run() {
 
 // The first one, or one after another that was closed.
 void Monkey::openWindow() {
+    journal_.note("open a window");
     for (const QWidget *window : QApplication::topLevelWidgets()) {
         if (window->isVisible())
             journal_.fail("a window stays open: " + window->windowTitle().toStdString());
@@ -78,6 +79,17 @@ void Monkey::openWindow() {
     connect(window_->pSettings.get(), &QDialog::finished, this,
             [this](int result) { leaveSettings(result == QDialog::Accepted); });
     connect(window_->pAbout, &QDialog::finished, this, [this] { model_.leaveAbout(); });
+    window_->show();
+    window_->activateWindow();
+    QCoreApplication::processEvents();
+    check();
+}
+
+// The one that was closed.
+void Monkey::showAgain() {
+    journal_.note("show it again");
+    searching_ = false;
+    model_.reopen();
     window_->show();
     window_->activateWindow();
     QCoreApplication::processEvents();

@@ -61,6 +61,7 @@ protected:
 
 private:
     void openWindow();
+    void showAgain();
     void step();
     void check();
     void follow();
