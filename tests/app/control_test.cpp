@@ -52,19 +52,6 @@ TEST_F(BreakTest, EscapeHeldDownIsOneBreak) {
     expectHandedOver();
 }
 
-TEST_F(BreakTest, AHandOverInsideTheSearchIsReportedAndFollowsIt) {
-    duringSearch([this] {
-        game.whiteComputer = 0;
-        game.DoPlayerMove();
-    });
-    place(startOfTen, humans);
-    press(game.btnForce);
-    EXPECT_EQ(boxes(), "warning of the window: DoPlayerMove: level>1 [Ok]\n");
-    EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
-    EXPECT_EQ(position(), picture(drawn(startOfTen)));
-    EXPECT_EQ(game.pView->cursor().shape(), Qt::ArrowCursor);
-}
-
 // As slow as a person's: the press comes in one flight and the release in the next.
 TEST_F(GameTest, BreakHeldWhileAPieceLandsCounts) {
     place(startOfTen, computers);
@@ -179,56 +166,17 @@ TEST_F(ClosingTest, WithAQuestionOpen) {
     EXPECT_EQ(position(), played);
 }
 
-// Where the program outlives its window, the window plays on when it is shown again.
-class ReopeningTest : public GameTest {
-protected:
-    void reopen() {
-        game.close();
-        tap(1, 3);
-        game.show();
-        game.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&game));
-    }
-};
-
-TEST_F(ReopeningTest, AMoveHalfEnteredIsCompleted) {
-    place(startOfTen, humans);
-    tap(5, 3);
-    reopen();
-    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
-    tap(4, 4);
-    land();
-    expectAgreement();
-}
-
-TEST_F(ReopeningTest, AFlightGoesOn) {
-    taps("53 44");
-    reopen();
-    land(2);
-    expectAgreement();
-}
-
-TEST_F(ReopeningTest, TheComputerThinksAgain) {
-    game.setLevel(infinite);
-    duringSearch([this] { game.close(); });
-    place(startOfTen, computers);
-    EXPECT_FALSE(game.isVisible());
-    game.setLevel(easy1);
-    game.show();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return game.flies(); }));
-    land();
-    expectAgreement();
-}
-
-TEST_F(ReopeningTest, ChoicesThatNobodyAcceptedAreForgotten) {
+// Where the program outlives its window.
+TEST_F(GameTest, ChoicesThatNobodyAcceptedAreForgottenInAReopenedWindow) {
     const std::string before = settingsText(game);
+    const auto reopen = [this] {
+        Hand::turnWheel(game.pSettings->cmbRules, false);
+        EXPECT_EQ(game.pSettings->rulesIndex, american);
+        game.close();
+        game.show();
+    };
     whileOpen(
-        game.pSettings.get(), [this] { press(game.btnSettings); },
-        [this] {
-            Hand::turnWheel(game.pSettings->cmbRules, false);
-            EXPECT_EQ(game.pSettings->rulesIndex, american);
-            reopen();
-        });
+        game.pSettings.get(), [this] { press(game.btnSettings); }, reopen);
     EXPECT_EQ(settingsText(game), before);
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
 }

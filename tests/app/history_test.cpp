@@ -28,20 +28,6 @@ TEST_F(GameTest, StepsBackAndForwardWithThePlayersSideFollowing) {
     EXPECT_FALSE(game.btnFwd->isEnabled());
 }
 
-TEST_F(GameTest, AMoveFromAnEarlierPositionReplacesWhatFollowed) {
-    place(startOfTen, humans);
-    taps("53 44");
-    land();
-    press(game.btnPrev);
-    taps("13 24");
-    land();
-    EXPECT_EQ(status(), "[Your Move] 20/20 Prev About Force Settings NewGame");
-    press(game.btnPrev);
-    EXPECT_EQ(position(), picture(drawn(startOfTen)));
-    press(game.btnFwd);
-    EXPECT_EQ(letterOf(game.pBoard->squares[2][4]), 'w');
-}
-
 TEST_F(GameTest, NewGameAtTheFirstPositionAsksNothing) {
     place(startOfTen, humans);
     taps("53 44");

@@ -4,20 +4,6 @@
 
 #include <algorithm>
 
-TEST_F(GameTest, ChoicesAreAcceptedTogether) {
-    accept({.rules = american,
-            .size = eightSquares,
-            .level = easy2,
-            .players = humans,
-            .toggleGiveAway = true});
-    EXPECT_EQ(status(), "[Your Move] 12/12 About Force Settings NewGame");
-    EXPECT_EQ(request(), "AmEngine, depth 2, noise 400, give-away");
-    EXPECT_EQ(game.whiteComputer, 0);
-    EXPECT_EQ(game.blackComputer, 0);
-    EXPECT_EQ(settingsText(game), "rules 1, size 1, level 1, players 1, give-away 1");
-    expectAgreement();
-}
-
 // The new size starts a game at once, by the new rules and at the new level.
 TEST_F(GameTest, ComputersOnBothSidesBeginWithAllOfTheNewSettings) {
     std::string firstRequest;

@@ -111,13 +111,6 @@ TEST_F(GameTest, LongestCaptureIsEnteredSquareBySquare) {
     expectAgreement();
 }
 
-TEST_F(GameTest, PolishRulesLeaveTheChoiceOfTheCapture) {
-    game.setRules(polish);
-    place(twoOrOne);
-    tap(0, 4);
-    EXPECT_EQ(marked(MarkNext), "(2,6)");
-}
-
 TEST_F(GameTest, MovesEndAsTheRulesHaveIt) {
     const struct {
         const char *what;
