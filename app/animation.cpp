@@ -12,14 +12,6 @@
 
 #include <utility>
 
-namespace {
-
-unsigned char crowned(unsigned char code) {
-    return static_cast<unsigned char>((code | codeKing) & ~codeMan);
-}
-
-} // namespace
-
 void Draughts::AnimateLegalMove(LegalMove *m) {
     markSquares(0);
     if (m == nullptr) {

@@ -26,6 +26,11 @@ enum SquareCode : unsigned char {
     codePiece = 15
 };
 
+// The code of a piece once it is crowned: a king, with its marks; a king stays one.
+constexpr unsigned char crowned(unsigned char code) {
+    return static_cast<unsigned char>((code | codeKing) & ~codeMan);
+}
+
 // One position: contents of every square, side to move, ply counter, size, and the search record
 // that the hash table keeps with it. A plain value; copied whole wherever a position is stored.
 class board {

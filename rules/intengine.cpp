@@ -56,7 +56,7 @@ void IntEngine::makeMove(::board *b, LegalMove *m) {
     unsigned char piece = b->Get(m->from());
     b->Get(m->from()) = 0;
     if (m->to().y == (b->whiteToMove ? size - 1 : 0))
-        piece = static_cast<unsigned char>((piece | codeKing) & ~codeMan);
+        piece = crowned(piece);
     b->Get(m->to()) = piece;
     for (const XY &square : m->taken)
         b->Get(square) = 0;
