@@ -35,7 +35,7 @@ public:
         constexpr Bits visited = Squares::rows(1, N - 2);
         return passageMen<true>(white_) & visited;
     }
-    // Black's; the look goes one row less far up than the mirror of white's.
+    // Black's; their visit ends one row before the mirror of white's.
     Bits blackPassageMen() const {
         constexpr Bits visited = Squares::rows(1, N - 3);
         return passageMen<false>(black_) & visited;

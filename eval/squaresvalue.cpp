@@ -29,7 +29,7 @@ void SquaresValue::fillCenterLine() {
     }
 }
 
-// Men that guard the own promotion row of the opponent.
+// Men that guard the opponent's promotion row.
 void SquaresValue::fillBaseRow() {
     for (int x = 0; x < size; x += 2)
         values[x][0] = 10;
