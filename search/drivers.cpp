@@ -36,9 +36,11 @@ public:
     void save(const QValueList<LegalMove> &list, const LegalMove *chosen) {
         list_ = list;
         index_ = -1;
-        for (int i = 0; i < list.count(); ++i) {
-            if (&list[i] == chosen)
+        int i = 0;
+        for (const LegalMove &m : list) {
+            if (&m == chosen)
                 index_ = i;
+            ++i;
         }
     }
     void forget() { index_ = -1; }

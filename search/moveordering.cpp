@@ -55,7 +55,10 @@ bool AbstractEngine::FavouriteMove(const QValueList<LegalMove> *list) const {
         return false;
     QValueList<LegalMove> sorted = *list;
     sortByScore(sorted);
-    const int lead = sorted.last().score - sorted[sorted.count() - 2].score;
+    auto second = sorted.end();
+    --second;
+    --second;
+    const int lead = sorted.last().score - second->score;
     return lead > (isGambit ? favouriteMarginGambit : favouriteMargin);
 }
 

@@ -7,30 +7,30 @@
 
 namespace {
 
-// The list's entries in a heap with the smallest score on top; entry 0 is not used. The entries
-// stay where they are in the list and only their indices move about.
+// The list's entries in a heap with the smallest score on top; entry 0 is not used. The moves stay
+// where they are in the list and only pointers to them move about.
 class MoveHeap {
 public:
-    explicit MoveHeap(const QValueList<LegalMove> &list) {
+    explicit MoveHeap(QValueList<LegalMove> &list) {
         entries_.reserve(static_cast<unsigned>(list.count()) + 1);
-        entries_.push_back({0, 0});
-        for (int i = 0; i < list.count(); ++i)
-            push({list[i].score, i});
+        entries_.push_back({0, nullptr});
+        for (LegalMove &m : list)
+            push({m.score, &m});
     }
 
-    // Removes the top and returns its index in the list.
-    int pop() {
-        const int index = entries_[1].index;
+    // Removes the top and returns it.
+    LegalMove *pop() {
+        LegalMove *top = entries_[1].move;
         entries_[1] = entries_.back();
         entries_.pop_back();
         pushDown();
-        return index;
+        return top;
     }
 
 private:
     struct Entry {
         int score;
-        int index;
+        LegalMove *move;
     };
 
     void push(Entry entry) {
@@ -66,7 +66,7 @@ private:
 void sortByScore(QValueList<LegalMove> &list) {
     MoveHeap heap(list);
     QValueList<LegalMove> sorted;
-    for (int i = 0; i < list.count(); ++i)
-        sorted.append(std::move(list[heap.pop()]));
+    for (int left = list.count(); left > 0; --left)
+        sorted.append(std::move(*heap.pop()));
     list.swap(sorted);
 }
