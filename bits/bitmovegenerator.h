@@ -5,7 +5,7 @@
 #include "bits/bitposition.h"
 #include "bits/movestack.h"
 #include "rules/capturelimit.h"
-#include "rules/listingwatch.h"
+#include "search/listingwatch.h"
 
 #include <type_traits>
 
@@ -70,8 +70,13 @@ public:
         }
     }
 
-    // Appends the legal captures in the order of generation.
+    // Appends the legal captures in the order of generation: all of them, or under a watch.
     void listCaptures(Stack &stack) {
+        ListingWatch unwatched;
+        listCaptures(stack, unwatched);
+    }
+    void listCaptures(Stack &stack, ListingWatch &watch) {
+        watch_ = &watch;
         first_ = stack.size();
         most_ = 0;
         for (Bits rest = manCapturers() | kings_; rest != 0;) {
@@ -201,7 +206,7 @@ private:
     }
 
     void manSequences(Stack &stack, Bits at, Bits taken, int level) {
-        if (level > 1 && ListingWatch::countJump())
+        if (level > 1 && watch_->countJump())
             return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.manCapture);
@@ -213,7 +218,7 @@ private:
     }
 
     void shortKingSequences(Stack &stack, Bits at, Bits taken, int level) {
-        if (level > 1 && ListingWatch::countJump())
+        if (level > 1 && watch_->countJump())
             return;
         if (level > maxCaptureLevel) {
             CaptureLimitScope::exceeded(Rules.kingCapture);
@@ -227,7 +232,7 @@ private:
     // A flying king may land on any free square behind the piece it jumps; squares from which it
     // can go on exclude the others.
     bool flyingSequences(Stack &stack, int at, Bits taken, int level) {
-        if (level > 1 && ListingWatch::countJump())
+        if (level > 1 && watch_->countJump())
             return true;
         bool found = false;
         const Bits blockers = Squares::all & ~landing_;
@@ -257,7 +262,8 @@ private:
     Bits landing_ = 0; // empty squares, and the capturing piece's start square
     int from_ = 0;
     std::size_t first_ = 0; // of this listing's captures on the stack
-    int most_ = 0;          // pieces taken by the longest capture so far
+    ListingWatch *watch_ = nullptr;
+    int most_ = 0; // pieces taken by the longest capture so far
 };
 
 #endif

@@ -10,40 +10,17 @@
 #include "rules/legalmove.h"
 #include "search/abstractengine.h"
 #include "search/deepsearch.h"
-#include "search/eventpump.h"
+#include "search/movesort.h"
 #include "search/nodeprocedure.h"
+#include "search/searchcontext.h"
 #include "search/thinkstatistic.h"
-
-#include <algorithm>
 
 // What all nodes of one deep search share.
 template <int N, const RuleTraits &Rules>
 struct BitContext {
-    explicit BitContext(thinkStatistic &stat)
-        : statistic(stat), material(*AbstractEngine::pSQV, AbstractEngine::isGambit),
-          table(*AbstractEngine::pHT), giveAway(stat.giveAway) {}
-
-    // Counts since the last flush; the statistics' own counters stop at the largest int.
-    struct Counts {
-        qint64 nodes = 0;
-        qint64 moves = 0;
-        qint64 scores = 0;
-        qint64 cutoffs = 0;
-        qint64 sacrifices = 0;
-        qint64 hashHits = 0;
-        int maxLevel = 0;
-    };
-
-    void flush() {
-        thinkStatistic::count(statistic.nodes, counts.nodes);
-        thinkStatistic::count(statistic.movesGenerated, counts.moves);
-        thinkStatistic::count(statistic.scoresCalculated, counts.scores);
-        thinkStatistic::count(statistic.cutoffs, counts.cutoffs);
-        thinkStatistic::count(statistic.senselessSacrifices, counts.sacrifices);
-        thinkStatistic::count(statistic.hashHits, counts.hashHits);
-        statistic.maxLevel = std::max(statistic.maxLevel, counts.maxLevel);
-        counts = {};
-    }
+    explicit BitContext(SearchContext &context)
+        : search(context), material(*AbstractEngine::pSQV, AbstractEngine::isGambit),
+          table(*AbstractEngine::pHT) {}
 
     // As AbstractEngine::canUseHT.
     bool probe(const BitPosition<N> &child, bool whiteToMove, int beta, int alpha, Score &value) {
@@ -53,16 +30,13 @@ struct BitContext {
             return false;
         value.set(stored->hashScore >= -alpha ? Score::none : stored->hashScore,
                   stored->hashHorizon);
-        ++counts.hashHits;
         return true;
     }
 
-    thinkStatistic &statistic;
+    SearchContext &search;
     const BitMaterial<N, Rules.flyingKings> material;
     BitTable<N> table;
     MoveStack<BitMove<N>> stack;
-    Counts counts;
-    const bool giveAway;
 };
 
 // A node without an engine: what NodeProcedure asks of a node, over a bit position. Its moves lie
@@ -82,15 +56,15 @@ public:
     BitNode(const BitNode &) = delete;
     BitNode &operator=(const BitNode &) = delete;
 
+    SearchContext &context() const { return context_.search; }
     int budget() const { return budget_; }
-    void begin(int) {}
 
     // A listing finds the moves in the state of never searched ones: their scores are none, and
     // they are searched in reverse order.
     bool listMoves() {
         capture_ = generator_.canCapture();
         if (capture_)
-            generator_.listCaptures(context_.stack);
+            generator_.listCaptures(context_.stack, context().listingWatch());
         // Captures beyond the limit are dropped, possibly all of them.
         moves_ = static_cast<int>(context_.stack.size() - first_);
         capture_ = moves_ > 0;
@@ -99,24 +73,12 @@ public:
         return moves_ == 0;
     }
 
-    void count(int level) {
-        ++context_.counts.nodes;
-        context_.counts.moves += moves_;
-        context_.counts.maxLevel = std::max(context_.counts.maxLevel, level);
-        // Slots that run inside may read the statistics.
-        if (eventsAreDue())
-            context_.flush();
-        pumpEvents(nodesBetweenEvents);
-    }
-
     int moves() const { return moves_; }
     bool mustCapture() const { return capture_; }
-    int ply() const { return ply_; }
-    bool giveAway() const { return context_.giveAway; }
 
-    int material() { return materialScore(0, 0); }
+    Score material() { return {materialScore(0, 0), ply_}; }
 
-    bool staticValue(int level, int horizon, int &value) {
+    bool staticValue(int level, int horizon, Score &value) {
         constexpr int freedomValue = AbstractEngine::freedomValue;
         const BitAnalysis<N> analysis(position_, White);
         typename DarkSquares<N>::Bits white = 0;
@@ -130,9 +92,7 @@ public:
             }
         }
         const int freedom = freedomValue * analysis.freedom();
-        value = materialScore(white, black) + (White ? freedom : -freedom);
-        if (giveAway())
-            value = -value;
+        value.set(materialScore(white, black) + (White ? freedom : -freedom), ply_);
         return true;
     }
 
@@ -141,31 +101,27 @@ public:
             generator_.listQuiet(context_.stack);
     }
 
-    void enter(int i, int childBudget) {
+    int enter(int i, int childBudget) {
         child_ = position_.template after<White>(move(i));
         childBudget_ = childBudget;
+        return Score::none;
     }
-    int score(int) const { return Score::none; }
-    void setScore(int i, int score) { move(i).score = score; }
 
-    bool probe(int, int beta, int alpha, Score &value) {
+    bool probe(int beta, int alpha, Score &value) {
         return context_.probe(child_, !White, beta, alpha, value);
     }
 
-    void search(int, int level, Score &value, const Score &alpha, const Score &beta, Line &line) {
+    void search(int level, Score &value, const Score &alpha, const Score &beta, Line &line) {
         using Child = BitNode<N, Rules, !White>;
         Child child(context_, child_, ply_ + 1, childBudget_);
         NodeProcedure<Child>(child, level).run(value, alpha, beta, line);
     }
 
-    void leave(int, int) {}
+    void leave(int i, int score) { move(i).score = score; }
 
     void updateLine(Line &line, int i, int level) {
         line.updateAt(move(i).from, move(i).to, move(i).score, level);
     }
-
-    void countCutoff() { ++context_.counts.cutoffs; }
-    void countSacrifice() { ++context_.counts.sacrifices; }
 
     void record(const Score &value, int alpha0, const Score &beta, bool insert) {
         if (insert)
@@ -179,17 +135,15 @@ public:
         result += severalMovesBonus(result, moves_, good);
     }
 
-    void trace(int, const Score &) const {}
-
 private:
     using Bits = typename DarkSquares<N>::Bits;
 
     BitMove<N> &move(int i) { return context_.stack[first_ + static_cast<unsigned>(i)]; }
 
     int materialScore(Bits whitePassage, Bits blackPassage) {
-        ++context_.counts.scores;
+        context().countStaticValue();
         const int balance = context_.material.balance(position_, whitePassage, blackPassage);
-        return (White ? balance : -balance) + randomTerm(context_.statistic);
+        return (White ? balance : -balance) + context().statistic().randomTerm();
     }
 
     Context &context_;
@@ -207,7 +161,7 @@ private:
 template <int N, const RuleTraits &Rules>
 class BitSearch final : public DeepSearch {
 public:
-    explicit BitSearch(thinkStatistic &statistic) : context_(statistic) {}
+    explicit BitSearch(SearchContext &context) : context_(context) {}
 
     void enter(const board &parent, const LegalMove &m) override {
         const BitPosition<N> before(parent);
@@ -223,9 +177,7 @@ public:
     }
 
     bool probe(int beta, int alpha, Score &value) override {
-        const bool found = context_.probe(child_, whiteToMove_, beta, alpha, value);
-        context_.flush();
-        return found;
+        return context_.probe(child_, whiteToMove_, beta, alpha, value);
     }
 
     void search(int level, int depth, Score &value, Score alpha, Score beta,
@@ -234,7 +186,6 @@ public:
             run<true>(level, depth, value, alpha, beta, line);
         else
             run<false>(level, depth, value, alpha, beta, line);
-        context_.flush();
     }
 
     void noteStored(const board &b) override { context_.table.note(b); }
@@ -260,17 +211,17 @@ private:
 
 // The BitSearch of the rule set for boards of N x N squares, compiled once a size.
 template <int N>
-std::unique_ptr<DeepSearch> makeBitSearch(const RuleTraits &rules, thinkStatistic &statistic) {
+std::unique_ptr<DeepSearch> makeBitSearch(const RuleTraits &rules, SearchContext &context) {
     if (&rules == &americanRules)
-        return std::make_unique<BitSearch<N, americanRules>>(statistic);
+        return std::make_unique<BitSearch<N, americanRules>>(context);
     if (&rules == &polishRules)
-        return std::make_unique<BitSearch<N, polishRules>>(statistic);
-    return std::make_unique<BitSearch<N, internationalRules>>(statistic);
+        return std::make_unique<BitSearch<N, polishRules>>(context);
+    return std::make_unique<BitSearch<N, internationalRules>>(context);
 }
 
-extern template std::unique_ptr<DeepSearch> makeBitSearch<6>(const RuleTraits &, thinkStatistic &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, thinkStatistic &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<10>(const RuleTraits &, thinkStatistic &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, thinkStatistic &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<6>(const RuleTraits &, SearchContext &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, SearchContext &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<10>(const RuleTraits &, SearchContext &);
+extern template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, SearchContext &);
 
 #endif

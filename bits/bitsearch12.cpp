@@ -1,3 +1,3 @@
 #include "bits/bitsearch.h"
 
-template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, thinkStatistic &);
+template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, SearchContext &);

@@ -8,9 +8,6 @@
 
 namespace {
 
-bool enabled = true;
-DeepSearch *runningSearch = nullptr;
-
 // The rules that the engine's class stands for, null for a class of one's own.
 const RuleTraits *rulesOf(const AbstractEngine &engine) {
     if (typeid(engine) == typeid(IntEngine))
@@ -23,48 +20,32 @@ const RuleTraits *rulesOf(const AbstractEngine &engine) {
 }
 
 template <int N>
-std::unique_ptr<DeepSearch> makeFor(const AbstractEngine &root, const RuleTraits &rules) {
+std::unique_ptr<DeepSearch> makeFor(const AbstractEngine &root, const RuleTraits &rules,
+                                    SearchContext &context) {
     if (!BitPosition<N>::representable(*root.board))
         return nullptr;
-    return makeBitSearch<N>(rules, *root.statistic);
+    return makeBitSearch<N>(rules, context);
 }
 
 } // namespace
 
-std::unique_ptr<DeepSearch> DeepSearch::make(const AbstractEngine &root) {
+std::unique_ptr<DeepSearch> DeepSearch::make(const AbstractEngine &root, SearchContext &context) {
     const RuleTraits *rules = rulesOf(root);
     const bool oneSize = root.board->size == root.size && XY::B_SIZE == root.size &&
                          AbstractEngine::pSQV != nullptr && AbstractEngine::pSQV->size == root.size;
     const bool table = AbstractEngine::pHT != nullptr && AbstractEngine::pHT->usable();
-    if (!enabled || rules == nullptr || !oneSize || !table)
+    if (!root.deepSearchAllowed || rules == nullptr || !oneSize || !table)
         return nullptr;
     switch (root.size) {
     case 6:
-        return makeFor<6>(root, *rules);
+        return makeFor<6>(root, *rules, context);
     case 8:
-        return makeFor<8>(root, *rules);
+        return makeFor<8>(root, *rules, context);
     case 10:
-        return makeFor<10>(root, *rules);
+        return makeFor<10>(root, *rules, context);
     case 12:
-        return makeFor<12>(root, *rules);
+        return makeFor<12>(root, *rules, context);
     default:
         return nullptr;
     }
-}
-
-void DeepSearch::enable(bool on) {
-    enabled = on;
-}
-
-DeepSearch *DeepSearch::running() {
-    return runningSearch;
-}
-
-DeepSearchScope::DeepSearchScope(const AbstractEngine &root)
-    : mine_(DeepSearch::make(root)), outer_(runningSearch) {
-    runningSearch = mine_.get();
-}
-
-DeepSearchScope::~DeepSearchScope() {
-    runningSearch = outer_;
 }

@@ -30,8 +30,7 @@ int balance(IntEngine &engine, ValueOf valueOf) {
 }
 
 // The value of a man's square; black reads the table from its own side of the board.
-int squareValue(const XY &p, int code) {
-    const SquaresValue &table = *AbstractEngine::pSQV;
+int squareValue(const SquaresValue &table, const XY &p, int code) {
     if ((code & codeWhite) != 0)
         return table.values[p.x][p.y];
     return table.values[table.size - 1 - p.x][table.size - 1 - p.y];
@@ -76,27 +75,23 @@ int IntEngine::SafeDiag(XY &p, int d) {
 }
 
 int IntEngine::materialScore(heuristic *h) {
-    thinkStatistic::count(statistic->scoresCalculated, 1);
     KingCounter kings(flyingKingValues(isGambit));
     const int step = passageStep(size);
-    const int total = balance(*this, [&](const XY &p, int code) {
+    return staticValue(balance(*this, [&](const XY &p, int code) {
         if ((code & codeMan) == 0)
             return kings.next(code);
-        int value = manValue + squareValue(p, code);
+        int value = manValue + squareValue(*pSQV, p, code);
         if (h != nullptr && h->getPassage(p.x, p.y) != 0)
             value += step * rowsAdvanced(p, code, size);
         return value;
-    });
-    return (board->whiteToMove ? total : -total) + randomTerm(*statistic);
+    }));
 }
 
 int AmEngine::materialScore(heuristic *) {
-    thinkStatistic::count(statistic->scoresCalculated, 1);
     KingCounter kings(shortKingValues);
-    const int total = balance(*this, [&](const XY &p, int code) {
+    return staticValue(balance(*this, [&](const XY &p, int code) {
         if ((code & codeMan) == 0)
             return kings.next(code) + shortKingPlace(p);
-        return manValue + squareValue(p, code);
-    });
-    return (board->whiteToMove ? total : -total) + randomTerm(*statistic);
+        return manValue + squareValue(*pSQV, p, code);
+    }));
 }

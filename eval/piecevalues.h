@@ -1,10 +1,6 @@
-// The material constants of the evaluation, in points, and its random term.
+// The material constants of the evaluation, in points.
 #ifndef EVAL_PIECEVALUES_H
 #define EVAL_PIECEVALUES_H
-
-#include "search/thinkstatistic.h"
-
-#include <cstdlib>
 
 inline constexpr int manValue = 1000;
 
@@ -40,11 +36,6 @@ inline constexpr int protectedBothWays = 5;
 // What a man on a free path to promotion gains with each row it has advanced.
 constexpr int passageStep(int n) {
     return 2 * (1000 / n) / 3;
-}
-
-// The level's random term: 0 to scoreNoise - 1.
-inline int randomTerm(const thinkStatistic &statistic) {
-    return statistic.scoreNoise > 1 ? std::rand() % statistic.scoreNoise : 0;
 }
 
 #endif

@@ -117,7 +117,7 @@ void IntEngine::genCapManMove(XY pos, ::board *b, int level, LegalMove *m) {
 }
 
 bool IntEngine::genCapKingMove(XY pos, ::board *b, int level, LegalMove *m) {
-    if (level > 1 && ListingWatch::countJump())
+    if (level > 1 && countJump())
         return true;
     bool found = false;
     for (const XY &step : jmpInter) {

@@ -3,7 +3,6 @@
 #define RULES_INTENGINE_H
 
 #include "rules/capturelimit.h"
-#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
 
 #include <initializer_list>
@@ -66,7 +65,7 @@ bool IntEngine::shortJumps(XY pos, const ::board &b, int level, LegalMove *m,
                            std::initializer_list<int> directions, const char *operation,
                            Next next) {
     const CaptureLimitScope report;
-    if (level > 1 && ListingWatch::countJump())
+    if (level > 1 && countJump())
         return true;
     if (level > maxCaptureLevel) {
         CaptureLimitScope::exceeded(operation);

@@ -1,6 +1,8 @@
 #include "search/abstractengine.h"
 
 #include "search/hashtable.h"
+#include "search/listingwatch.h"
+#include "search/thinkstatistic.h"
 
 bool AbstractEngine::breakThinking = false;
 bool AbstractEngine::isGambit = false;
@@ -20,13 +22,29 @@ AbstractEngine::~AbstractEngine() {
 }
 
 void AbstractEngine::releaseTree() {
-    for (int i = moveList.count() - 1; i >= 0; --i) {
-        LegalMove &m = moveList[i];
-        delete m.subEngine;
-        m.subEngine = nullptr;
-        delete m.subBoard;
-        m.subBoard = nullptr;
+    for (auto it = moveList.end(); it != moveList.begin();) {
+        --it;
+        delete it->subEngine;
+        it->subEngine = nullptr;
+        delete it->subBoard;
+        it->subBoard = nullptr;
     }
+}
+
+bool AbstractEngine::listMoves(ListingWatch &watch) {
+    watch_ = &watch;
+    const bool noMoves = FillMoveList();
+    watch_ = nullptr;
+    return noMoves;
+}
+
+bool AbstractEngine::countJump() {
+    return watch_ != nullptr && watch_->countJump();
+}
+
+int AbstractEngine::staticValue(int balance) {
+    thinkStatistic::count(statistic->scoresCalculated, 1);
+    return (board->whiteToMove ? balance : -balance) + statistic->randomTerm();
 }
 
 LegalMove *AbstractEngine::getLegalMove(int i) {

@@ -8,6 +8,7 @@
 #include "search/score.h"
 
 class BestLine;
+class ListingWatch;
 class QTextStream;
 class SquaresValue;
 class hashTable;
@@ -31,6 +32,10 @@ public:
     QValueList<LegalMove> moveList; // as of the last FillMoveList()
     thinkStatistic *statistic;      // not owned, shared by all engines of a game
 
+    // Where the engine is a search's root: levels that no engine need hang on may be left to a
+    // DeepSearch, which finds the same. False has them searched over engines, for comparing.
+    bool deepSearchAllowed = true;
+
     static bool breakThinking;   // request to stop the running search
     static bool isGambit;        // few pieces are left in the game's position
     static int eventLoop;        // nodes until pending events are processed
@@ -50,7 +55,8 @@ public:
     AbstractEngine &operator=(const AbstractEngine &) = delete;
 
     // Lists the legal moves of the board after releasing the old list's tree. True when there is
-    // none. Listing sets the can-move marks of the board's men.
+    // none. Listing sets the can-move marks of the board's men. What lists captures asks
+    // countJump() at every jump but the first of a sequence.
     virtual bool FillMoveList() = 0;
     // Replaces `list` by the non-capturing moves of the side to move in `b`, captures not looked
     // at; sets the can-move marks. True when there is one.
@@ -70,6 +76,8 @@ public:
     // taken, passes the turn.
     virtual void makeMove(::board *b, LegalMove *m) = 0;
 
+    // FillMoveList() under a watch: the list is worth nothing when the watch says so afterwards.
+    bool listMoves(ListingWatch &watch);
     const QValueList<LegalMove> *getMoveList() const { return &moveList; }
     // The i-th move, i >= 0; null beyond the last. Valid until the list is filled again.
     LegalMove *getLegalMove(int i);
@@ -92,7 +100,7 @@ public:
     // value the side to move here is sure of; `beta` the best value the other side is sure of, in
     // that side's point of view (not negated). `result` receives the node's value, `line` the
     // principal variation from this level down. Returns the best move, null when the node was
-    // valued without searching its moves or ended in a cut-off. `trace` prints the node's moves.
+    // valued without searching its moves or ended in a cut-off. `trace` prints the searched moves.
     LegalMove *getBestMove(int level, Score &result, Score alpha, Score beta, BestLine &line,
                            bool trace);
     // The node may be valued statically: at or beyond the horizon, with moves to choose from.
@@ -108,7 +116,7 @@ public:
     // A record of child position `b` answers for it within the window of this node; it is copied
     // into `b`, its score none when it cannot raise alpha.
     bool canUseHT(::board *b, int betaValue, int alphaValue);
-    // Prints the node and its moves' scores on standard output.
+    // Prints the node and its moves' scores on standard output; the child's key is not shown.
     void printPLM(int alpha0, int beta, unsigned int thisKey, unsigned int childKey, int level);
     // Writes every position down to `depth` levels (here the plain number), without pruning.
     void genFullTree(QTextStream &ts, int level);
@@ -130,6 +138,11 @@ public:
 protected:
     // Releases the engines and boards that the moves of the list own.
     void releaseTree();
+    // Counts a jump of the running listing; true when the listing is to end with what it has.
+    bool countJump();
+    // A static value in points for the side to move, made of a balance (white's points minus
+    // black's): counts the evaluation and adds the level's random term.
+    int staticValue(int balance);
 
 private:
     bool startDriver(Score &score);
@@ -137,6 +150,8 @@ private:
     bool atLevelLimit() const;
     template <class Saved>
     LegalMove *finishDriver(Saved &saved, const LegalMove *last);
+
+    ListingWatch *watch_ = nullptr; // over the running listing, if any; not owned
 };
 
 #endif

@@ -9,8 +9,8 @@
 class AbstractEngine;
 class BestLine;
 class LegalMove;
+class SearchContext;
 class board;
-class thinkStatistic;
 
 // The search keeps engines and boards for the nodes at levels 0 to 3 only; below, every node is
 // made afresh at each visit and dropped. There the rule operations of the engine classes are not
@@ -19,51 +19,26 @@ class thinkStatistic;
 // an engine of a class derived from them, or a board that bit sets cannot represent, is searched
 // over engines all the way down.
 //
-// One exists while an iteration runs at level 0 and serves the level-3 nodes of it.
+// One exists while an iteration runs at level 0 and serves the level-3 nodes of it. This is the one
+// door to the bit sets: the class that stands behind it, and make(), are theirs.
 class DeepSearch {
 public:
     virtual ~DeepSearch() = default;
 
-    // The one for the engine's position, reading the statistics' request and the square values in
-    // force; null where the engines must do. Owned by the caller.
-    static std::unique_ptr<DeepSearch> make(const AbstractEngine &root);
-
-    // Switches the class off (or on again) for searches to come: they run over engines only. For
-    // measuring and for comparing.
-    static void enable(bool on);
-
-    // The one that serves the running iteration; null when none does. Not owned.
-    static DeepSearch *running();
+    // The one for the engine's position, counting in the context and reading the square values in
+    // force; null where the engines must do, or shall by AbstractEngine::deepSearchAllowed.
+    static std::unique_ptr<DeepSearch> make(const AbstractEngine &root, SearchContext &context);
 
     // Sets up the position after `m`, a move in `parent`, for probe() and search().
     virtual void enter(const board &parent, const LegalMove &m) = 0;
     // As AbstractEngine::canUseHT for that position, the answer going to `value`.
     virtual bool probe(int beta, int alpha, Score &value) = 0;
     // Searches that position at `level` with a depth budget of `depth` tenths of a ply, as
-    // AbstractEngine::getBestMove does. The counts are added to the statistics.
+    // AbstractEngine::getBestMove does.
     virtual void search(int level, int depth, Score &value, Score alpha, Score beta,
                         BestLine &line) = 0;
     // Takes note that a position was stored in the transposition table.
     virtual void noteStored(const board &b) = 0;
-
-protected:
-    DeepSearch() = default;
-
-private:
-    friend class DeepSearchScope;
-};
-
-// Makes a DeepSearch the running one for as long as the scope lives.
-class DeepSearchScope {
-public:
-    explicit DeepSearchScope(const AbstractEngine &root);
-    ~DeepSearchScope();
-    DeepSearchScope(const DeepSearchScope &) = delete;
-    DeepSearchScope &operator=(const DeepSearchScope &) = delete;
-
-private:
-    std::unique_ptr<DeepSearch> mine_;
-    DeepSearch *outer_;
 };
 
 #endif

@@ -1,160 +1,142 @@
 #include "search/enginenode.h"
 
-#include "base/host.h"
 #include "eval/heuristic.h"
 #include "search/deepsearch.h"
-#include "search/eventpump.h"
 #include "search/hashtable.h"
 #include "search/movesort.h"
 #include "search/nodeprocedure.h"
-#include "search/thinkstatistic.h"
+#include "search/searchcontext.h"
 
 #include <algorithm>
 
 namespace {
 
-// Children of nodes up to this level are kept.
-constexpr int lastCachedLevel = 2;
+template <SearchNode Node>
+NodeOutcome run(Node &&node, int level, Score &result, const Score &alpha, const Score &beta,
+                BestLine &line) {
+    using Procedure = NodeProcedure<Node>;
+    const int best = Procedure(node, level).run(result, alpha, beta, line);
+    return {best < 0 ? nullptr : node.move(best), best != Procedure::unsearched};
+}
 
 } // namespace
 
-void EngineNode::begin(int level) {
-    level_ = level;
-    if (level > lastCachedLevel)
-        deep_ = DeepSearch::running();
-    if (trace_)
-        key_ = engine_.board->HKey();
-    if (level == 0) {
-        AbstractEngine::absHorizon = engine_.board->plyCount + engine_.depth / 10;
-        AbstractEngine::pHT->clear();
-    }
+NodeOutcome searchNode(AbstractEngine &engine, SearchContext &context, int level, Score &result,
+                       const Score &alpha, const Score &beta, BestLine &line) {
+    if (level > EngineNode::lastCachedLevel && context.deepSearch() != nullptr)
+        return run(HandoverNode(engine, context), level, result, alpha, beta, line);
+    return run(EngineNode(engine, context, level), level, result, alpha, beta, line);
 }
 
 // A list that was searched before is ordered by the scores of that time.
-bool EngineNode::listMoves() {
-    if (!engine_.moveList.isEmpty()) {
-        sortByScore(engine_.moveList);
-        AbstractEngine::depthUpdate(&engine_.moveList);
-        return false;
+bool MoveListNode::listMoves() {
+    QValueList<LegalMove> &list = engine_.moveList;
+    bool noMoves = false;
+    if (list.isEmpty()) {
+        noMoves = engine_.listMoves(context_.listingWatch());
+        engine_.randMoveList();
+    } else {
+        sortByScore(list);
+        AbstractEngine::depthUpdate(&list);
     }
-    const bool noMoves = engine_.FillMoveList();
-    engine_.randMoveList();
+    moves_.reserve(static_cast<std::size_t>(list.count()));
+    for (LegalMove &m : list)
+        moves_.push_back(&m);
     return noMoves;
 }
 
-void EngineNode::count(int level) {
-    thinkStatistic &statistic = *engine_.statistic;
-    thinkStatistic::count(statistic.nodes, 1);
-    statistic.maxLevel = std::max(statistic.maxLevel, level);
-    thinkStatistic::count(statistic.movesGenerated, moves());
-    pumpEvents(nodesBetweenEvents);
+Score MoveListNode::material() {
+    return {engine_.materialScore(nullptr), engine_.board->plyCount};
 }
 
-bool EngineNode::giveAway() const {
-    return engine_.statistic->giveAway;
-}
-
-bool EngineNode::staticValue(int level, int, int &value) {
+bool MoveListNode::staticValue(int level, int, Score &value) {
     int freedom = 0;
     bool canPass = false;
     heuristic analysis;
     heuristic *passages = engine_.doHeuristic(&analysis, freedom, canPass);
     if (!engine_.canScore(level, canPass))
         return false;
-    value = engine_.materialScore(passages) + freedom;
-    if (giveAway())
-        value = -value;
+    value.set(engine_.materialScore(passages) + freedom, engine_.board->plyCount);
     return true;
 }
 
-void EngineNode::enter(int i, int childBudget) {
-    LegalMove &m = engine_.moveList[i];
-    childBudget_ = childBudget - std::max(m.reduction, 0);
-    if (deep_ != nullptr)
-        deep_->enter(*engine_.board, m);
-    else if (AbstractEngine::breakThinking && m.subEngine == nullptr)
-        enterInPassing(m);
-    else
-        enterEngine(m, childBudget);
+void MoveListNode::record(const Score &value, int alpha0, const Score &beta, bool insert) {
+    board &b = *engine_.board;
+    b.hashHorizon = AbstractEngine::absHorizon;
+    b.hashScore = value.value;
+    b.hashAlpha = alpha0;
+    b.hashBeta = beta.value;
+    if (insert && AbstractEngine::pHT->insert(&b) == 1 && context_.deepSearch() != nullptr)
+        context_.deepSearch()->noteStored(b);
 }
 
-// A clone is made with the budget that the move's reduction has not been taken from yet.
-void EngineNode::enterEngine(LegalMove &m, int childBudget) {
+int MoveListNode::reducedBudget(const LegalMove &m, int childBudget) {
+    return childBudget - std::max(m.reduction, 0);
+}
+
+// A clone is made with the budget that the move's reduction has not been taken from yet. A search
+// that is broken off only asks the table for what it has not searched yet: on the way out of a long
+// listing it makes boards for that, but no engines.
+int EngineNode::enter(int i, int childBudget) {
+    LegalMove &m = *move(i);
     if (m.subBoard == nullptr) {
         m.subBoard = new board(engine_.board);
         engine_.makeMove(m.subBoard, &m);
     }
-    if (m.subEngine == nullptr)
+    if (m.subEngine == nullptr && !AbstractEngine::breakThinking)
         m.subEngine = engine_.selfClone(m.subBoard, childBudget, engine_.statistic, engine_.size);
-    m.subEngine->depth = childBudget_;
+    if (m.subEngine != nullptr)
+        m.subEngine->depth = reducedBudget(m, childBudget);
+    child_ = m.subBoard;
+    childEngine_ = m.subEngine;
+    return m.score;
 }
 
-// A search that is broken off only asks the table for what it has not searched yet. On the way out
-// of a long listing an engine and a board of its own for every move would take a while.
-void EngineNode::enterInPassing(LegalMove &m) {
-    passed_.emplace(engine_.board);
-    engine_.makeMove(&*passed_, &m);
-}
-
-bool EngineNode::probe(int i, int beta, int alpha, Score &value) {
-    if (deep_ != nullptr)
-        return deep_->probe(beta, alpha, value);
-    board *child = engine_.moveList[i].subBoard;
-    if (child == nullptr)
-        child = &*passed_;
-    if (trace_)
-        childKey_ = child->HKey();
-    if (!engine_.canUseHT(child, beta, alpha))
+bool EngineNode::probe(int beta, int alpha, Score &value) {
+    if (!engine_.canUseHT(child_, beta, alpha))
         return false;
-    thinkStatistic::count(engine_.statistic->hashHits, 1);
-    value.set(child->hashScore, child->hashHorizon);
+    value.set(child_->hashScore, child_->hashHorizon);
     return true;
 }
 
-void EngineNode::search(int i, int level, Score &value, const Score &alpha, const Score &beta,
+void EngineNode::search(int level, Score &value, const Score &alpha, const Score &beta,
                         BestLine &line) {
-    AbstractEngine *child = engine_.moveList[i].subEngine;
-    if (deep_ != nullptr)
-        deep_->search(level, childBudget_, value, alpha, beta, line);
-    else if (child != nullptr)
-        child->getBestMove(level, value, alpha, beta, line, false);
+    if (childEngine_ != nullptr)
+        searchNode(*childEngine_, context_, level, value, alpha, beta, line);
     else
         NodeProcedure<EngineNode>::breakOff(level, value, line);
 }
 
-void EngineNode::leave(int i, int level) {
-    if (level <= lastCachedLevel || deep_ != nullptr)
+void EngineNode::leave(int i, int score) {
+    LegalMove &m = *move(i);
+    m.score = score;
+    if (level_ <= lastCachedLevel)
         return;
-    LegalMove &m = engine_.moveList[i];
     delete m.subEngine;
     m.subEngine = nullptr;
     delete m.subBoard;
     m.subBoard = nullptr;
 }
 
-void EngineNode::updateLine(BestLine &line, int i, int level) const {
-    line.updateAt(&engine_.moveList[i], level);
+HandoverNode::HandoverNode(AbstractEngine &engine, SearchContext &context)
+    : MoveListNode(engine, context), deepSearch_(*context.deepSearch()) {}
+
+int HandoverNode::enter(int i, int childBudget) {
+    const LegalMove &m = *move(i);
+    deepSearch_.enter(*engine_.board, m);
+    childBudget_ = reducedBudget(m, childBudget);
+    return m.score;
 }
 
-void EngineNode::countCutoff() {
-    thinkStatistic::count(engine_.statistic->cutoffs, 1);
+bool HandoverNode::probe(int beta, int alpha, Score &value) {
+    return deepSearch_.probe(beta, alpha, value);
 }
 
-void EngineNode::countSacrifice() {
-    thinkStatistic::count(engine_.statistic->senselessSacrifices, 1);
+void HandoverNode::search(int level, Score &value, const Score &alpha, const Score &beta,
+                          BestLine &line) {
+    deepSearch_.search(level, childBudget_, value, alpha, beta, line);
 }
 
-void EngineNode::record(const Score &value, int alpha0, const Score &beta, bool insert) {
-    board &b = *engine_.board;
-    b.hashHorizon = AbstractEngine::absHorizon;
-    b.hashScore = value.value;
-    b.hashAlpha = alpha0;
-    b.hashBeta = beta.value;
-    if (insert && AbstractEngine::pHT->insert(&b) == 1 && DeepSearch::running() != nullptr)
-        DeepSearch::running()->noteStored(b);
-}
-
-void EngineNode::trace(int alpha0, const Score &beta) const {
-    if (trace_)
-        engine_.printPLM(alpha0, beta.value, key_, childKey_, level_);
+void HandoverNode::leave(int i, int score) {
+    move(i)->score = score;
 }

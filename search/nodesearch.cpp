@@ -1,14 +1,13 @@
 // The node search of AbstractEngine, and the tests it applies at a node.
 
+#include "base/host.h"
 #include "eval/heuristic.h"
 #include "rules/capturelimit.h"
-#include "rules/listingwatch.h"
 #include "search/abstractengine.h"
-#include "search/deepsearch.h"
 #include "search/enginenode.h"
-#include "search/eventpump.h"
 #include "search/hashtable.h"
 #include "search/nodeprocedure.h"
+#include "search/searchcontext.h"
 #include "search/thinkstatistic.h"
 
 #include <QTextStream>
@@ -16,33 +15,30 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <optional>
 
 namespace {
 
 // The tree dump processes events more often than the search: writing is slow.
 constexpr int dumpsBetweenEvents = 20;
 
-// Asked during long listings.
-bool searchGoesOn() {
-    host().processEvents();
-    return !AbstractEngine::breakThinking;
-}
-
 } // namespace
 
 LegalMove *AbstractEngine::getBestMove(int level, Score &result, Score alpha, Score beta,
                                        BestLine &line, bool trace) {
     const CaptureLimitScope report;
-    std::optional<DeepSearchScope> deep;
-    std::optional<ListingWatch> watch;
+    SearchContext context(*statistic);
     if (level == 0) {
-        deep.emplace(*this);
-        watch.emplace(&searchGoesOn);
+        absHorizon = board->plyCount + depth / 10;
+        pHT->clear();
+        context.startDeepSearch(*this);
     }
-    EngineNode node(*this, trace);
-    const int best = NodeProcedure<EngineNode>(node, level).run(result, alpha, beta, line);
-    return best < 0 ? nullptr : &moveList[best];
+    const NodeOutcome outcome = searchNode(*this, context, level, result, alpha, beta, line);
+    if (trace && outcome.searched) {
+        alpha.reviveNone();
+        beta.reviveNone();
+        printPLM(alpha.value, beta.value, board->HKey(), 0, level);
+    }
+    return outcome.best;
 }
 
 bool AbstractEngine::canScore(int level) const {
@@ -67,8 +63,13 @@ heuristic *AbstractEngine::doHeuristic(heuristic *h, int &freedom, bool &canPass
 }
 
 bool AbstractEngine::senseLessSacryfice(const Score &alpha, const Score &beta, int &material) {
-    EngineNode node(*this, false);
-    return NodeProcedure<EngineNode>::senselessSacrifice(node, alpha, beta, material);
+    SearchContext context(*statistic);
+    EngineNode node(*this, context, 0);
+    Score value(material, 0);
+    const bool senseless =
+        NodeProcedure<EngineNode>(node, 0).senselessSacrifice(alpha, beta, value);
+    material = value.value;
+    return senseless;
 }
 
 // The record was made by a node of this position with the window it had then; the child's present
@@ -92,9 +93,11 @@ bool AbstractEngine::canUseHT(::board *b, int betaValue, int alphaValue) {
 void AbstractEngine::printPLM(int alpha0, int beta, unsigned int thisKey, unsigned int, int level) {
     std::printf("\n thisKey=\t %u \tlevel=%d\t Depth=%d < %d, %d >\n", thisKey, level, depth,
                 alpha0, -beta);
-    for (int i = moveList.count() - 1; i >= 0; --i) {
-        std::printf("m=%d/%d\t tScore=%d\t score=%d\t \n", i, moveList.count(),
-                    moveList[i].reduction, moveList[i].score);
+    int i = moveList.count();
+    for (auto it = moveList.end(); it != moveList.begin();) {
+        --it;
+        std::printf("m=%d/%d\t tScore=%d\t score=%d\t \n", --i, moveList.count(), it->reduction,
+                    it->score);
     }
 }
 
@@ -109,7 +112,10 @@ void AbstractEngine::genFullTree(QTextStream &ts, int level) {
     thinkStatistic::count(statistic->movesGenerated, moveList.count());
     if (noMoves || level >= depth)
         return;
-    pumpEvents(dumpsBetweenEvents);
+    if (--eventLoop < 0) {
+        host().processEvents();
+        eventLoop = dumpsBetweenEvents;
+    }
     for (LegalMove &m : moveList) {
         ::board after(board);
         makeMove(&after, &m);

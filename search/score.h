@@ -29,6 +29,11 @@ struct Score {
     constexpr void neg() { value = -value; }
 
     constexpr bool isNone() const { return value == none || value == -none; }
+    // A bound that was none before a change of sides is none again.
+    constexpr void reviveNone() {
+        if (isNone())
+            value = none;
+    }
     constexpr bool aroundGameOver() const {
         return !isNone() && (value > decided || value < -decided);
     }

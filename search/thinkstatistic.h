@@ -4,6 +4,8 @@
 
 #include "base/elapsedtime.h"
 
+#include <cstdlib>
+
 // The playing level's request, the counters of the last search and the time control. One object,
 // owned by the game and shared by all its engines. The counters stop at the largest int.
 class thinkStatistic {
@@ -57,6 +59,9 @@ public:
     int Estimate(int moves);
     // Notes the end of an iteration; true when the next one is expected to end within the budget.
     bool canTry(int moves);
+
+    // The level's random term of an evaluation: 0 to scoreNoise - 1.
+    int randomTerm() const { return scoreNoise > 1 ? std::rand() % scoreNoise : 0; }
 
     // Adds to a counter, stopping at the largest int.
     static void count(int &counter, qint64 more);

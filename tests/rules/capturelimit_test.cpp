@@ -66,11 +66,11 @@ TEST(CaptureLimit, AWholeSearchShowsOneBox) {
 }
 
 template <const RuleTraits &Rules>
-std::size_t listedOnBits(const board &b) {
+std::size_t listedOnBits(const board &b, ListingWatch &watch) {
     BitMoveGenerator<12, Rules, true> generator{BitPosition<12>(b)};
     MoveStack<BitMove<12>> stack;
     generator.canCapture();
-    generator.listCaptures(stack);
+    generator.listCaptures(stack, watch);
     const std::size_t moves = stack.size();
     stack.cut(0);
     return moves;
@@ -78,27 +78,25 @@ std::size_t listedOnBits(const board &b) {
 
 // The whole listings have thousands of moves; a flying king's would take minutes.
 TEST(ListingWatch, AListingThatIsGivenUpEndsAtTheNextJump) {
-    static int questions;
     const struct {
         RuleSet rules;
         unsigned char piece;
-        std::size_t (*onBits)(const board &);
+        std::size_t (*onBits)(const board &, ListingWatch &);
     } cases[] = {{RuleSet::Polish, whiteMan, listedOnBits<polishRules>},
                  {RuleSet::American, whiteKing, listedOnBits<americanRules>},
                  {RuleSet::Polish, whiteKing, listedOnBits<polishRules>}};
     for (const auto &c : cases) {
         EngineRig rig(c.rules, lattice(c.piece));
         const CaptureLimitScope quiet;
-        const ListingWatch watch([] { return ++questions % 2 != 0; });
-        questions = 0;
-        rig.engine->FillMoveList();
+        int questions = 0;
+        ListingWatch watch([&] { return ++questions % 2 != 0; });
+        rig.engine->listMoves(watch);
         EXPECT_EQ(questions, 2) << "asked once more after \"go on\"";
-        EXPECT_TRUE(ListingWatch::isGivenUp());
+        EXPECT_TRUE(watch.isGivenUp());
         EXPECT_LT(rig.engine->moveList.count(), 8002);
-        EXPECT_LT(c.onBits(rig.position), 100U) << "given up for good";
+        EXPECT_LT(c.onBits(rig.position, watch), 100U) << "given up for good";
         EXPECT_EQ(questions, 2);
     }
-    EXPECT_FALSE(ListingWatch::isGivenUp());
 }
 
 // A working record that has 25 jumps behind it already.

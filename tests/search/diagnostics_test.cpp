@@ -4,6 +4,7 @@
 #include "bits/bitposition.h"
 #include "eval/heuristic.h"
 #include "search/deepsearch.h"
+#include "search/searchcontext.h"
 #include "tests/search/drawntree.h"
 
 #include <QTextStream>
@@ -45,7 +46,8 @@ TEST(Trace, PrintsANodeWithItsMoves) {
 }
 
 bool bitsStandInFor(EngineRig &rig) {
-    return DeepSearch::make(*rig.engine) != nullptr;
+    SearchContext context(rig.statistic);
+    return DeepSearch::make(*rig.engine, context) != nullptr;
 }
 
 TEST(DeepSearch, StandsInWhereBitSetsCan) {

@@ -6,7 +6,6 @@
 #include "rules/intengine.h"
 #include "rules/ruleset.h"
 #include "search/bestline.h"
-#include "search/deepsearch.h"
 #include "search/hashtable.h"
 #include "search/thinkstatistic.h"
 #include "tests/support/drawnboard.h"
@@ -42,13 +41,12 @@ struct EngineRig {
     ~EngineRig() {
         AbstractEngine::setSQV(nullptr);
         AbstractEngine::setHashTable(nullptr);
-        DeepSearch::enable(true);
     }
     EngineRig(const EngineRig &) = delete;
     EngineRig &operator=(const EngineRig &) = delete;
 
     // From now on no level of a search is left to the bit sets.
-    void leaveOutBits() { DeepSearch::enable(false); }
+    void leaveOutBits() { engine->deepSearchAllowed = false; }
     // Searches; the chosen move as text, "none" without one.
     std::string search() {
         const LegalMove *m = engine->getBestMove(score, line);

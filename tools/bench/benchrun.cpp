@@ -3,7 +3,6 @@
 #include "eval/squaresvalue.h"
 #include "search/abstractengine.h"
 #include "search/bestline.h"
-#include "search/deepsearch.h"
 #include "search/hashtable.h"
 #include "tools/common/positionline.h"
 
@@ -80,9 +79,9 @@ BenchResult runTask(const BenchTask &task, bool straightforward) {
     AbstractEngine::setSQV(&squareValues);
     AbstractEngine::setHashTable(&table);
     AbstractEngine::eventLoop = 0;
-    DeepSearch::enable(!straightforward);
     const std::unique_ptr<AbstractEngine> engine(
         newEngine(task.rules, &position, 1, &result.statistic, position.size));
+    engine->deepSearchAllowed = !straightforward;
 
     Score score(0, -1);
     BestLine line;
@@ -96,7 +95,6 @@ BenchResult runTask(const BenchTask &task, bool straightforward) {
     result.score = score.value;
     result.depth = engine->depth / 10;
     line.asString(result.line);
-    DeepSearch::enable(true);
     AbstractEngine::setSQV(nullptr);
     AbstractEngine::setHashTable(nullptr);
     return result;
