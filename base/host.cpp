@@ -1,5 +1,6 @@
 #include "base/host.h"
 
+#include <QCoreApplication>
 #include <QTextStream>
 
 #include <chrono>
@@ -19,7 +20,14 @@ bool Host::messageBox(BoxKind, const QString &title, const QString &text, BoxBut
     return true;
 }
 
-void Host::processEvents() {}
+void Host::processEvents() {
+    constexpr qint64 pauseNs = 1000000;
+    if (QCoreApplication::instance() == nullptr ||
+        (sinceEvents_.isValid() && sinceEvents_.nsecsElapsed() < pauseNs))
+        return;
+    QCoreApplication::processEvents();
+    sinceEvents_.start();
+}
 
 void Host::beep() {}
 
@@ -44,4 +52,9 @@ Host *setHost(Host *replacement) {
     Host *previous = installed;
     installed = replacement != nullptr ? replacement : &displayFreeHost;
     return previous;
+}
+
+void substituteDisplayFreeHost(Host *substitute) {
+    if (installed == &displayFreeHost)
+        setHost(substitute);
 }

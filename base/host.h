@@ -3,6 +3,7 @@
 #ifndef BASE_HOST_H
 #define BASE_HOST_H
 
+#include <QElapsedTimer>
 #include <QString>
 
 class QWidget;
@@ -15,9 +16,9 @@ enum class BoxButtons { Ok, OkCancel };
 
 // The one seam between the program and its surroundings. All code, widgets included, reports and
 // waits through `host()`. This base class needs no display and no application object: messages go
-// to standard error and are taken as confirmed, event processing and the beep do nothing, the pause
-// and the clock are the real ones. The application installs a host with real boxes and events;
-// tests install one that records what it is asked and answers as told.
+// to standard error and are taken as confirmed, events are processed where there is an application,
+// the beep does nothing, the pause and the clock are the real ones. Canvases bring a host with real
+// boxes (platform/guihost.h); tests install one that records what it is asked and answers as told.
 class Host {
 public:
     virtual ~Host() = default;
@@ -26,7 +27,10 @@ public:
     // `parent` may be null.
     virtual bool messageBox(BoxKind kind, const QString &title, const QString &text,
                             BoxButtons buttons = BoxButtons::Ok, QWidget *parent = nullptr);
-    // Handles the toolkit's pending events; slots run inside the call.
+    // Handles the toolkit's pending events; slots run inside the call. Enters the toolkit when a
+    // millisecond has passed since the last time, and else returns at once: a search asks some
+    // forty thousand times a second, entering costs more than a microsecond, a look at the clock a
+    // fortieth of that, and nobody can tell a click answered a millisecond later.
     virtual void processEvents();
     virtual void beep();
     // Blocks for so many microseconds.
@@ -35,6 +39,9 @@ public:
     virtual qint64 clockMs();
     // A seed for the random generator: the current time in seconds.
     virtual unsigned int seed();
+
+private:
+    QElapsedTimer sinceEvents_; // invalid until events are processed for the first time
 };
 
 // The host in force; the display-free one until another is installed.
@@ -43,5 +50,8 @@ Host &host();
 // Installs `replacement` (not owned; null brings the display-free host back) and returns the host
 // that was in force.
 Host *setHost(Host *replacement);
+
+// Installs `substitute` (not owned) unless some host has been installed.
+void substituteDisplayFreeHost(Host *substitute);
 
 #endif

@@ -19,21 +19,21 @@ constexpr const char *screenScaleFactors = "QT_SCREEN_SCALE_FACTORS";
 // Takes a variable out of the environment for as long as it lives.
 class HiddenVariable {
 public:
-    explicit HiddenVariable(const char *variable) : name(variable) {
-        if (qEnvironmentVariableIsSet(name))
-            value = qgetenv(name);
-        qunsetenv(name);
+    explicit HiddenVariable(const char *variable) : name_(variable) {
+        if (qEnvironmentVariableIsSet(name_))
+            value_ = qgetenv(name_);
+        qunsetenv(name_);
     }
     ~HiddenVariable() {
-        if (value)
-            qputenv(name, *value);
+        if (value_)
+            qputenv(name_, *value_);
     }
     HiddenVariable(const HiddenVariable &) = delete;
     HiddenVariable &operator=(const HiddenVariable &) = delete;
 
 private:
-    const char *name;
-    std::optional<QByteArray> value;
+    const char *name_;
+    std::optional<QByteArray> value_;
 };
 
 // The toolkit tells the screen's size only to an application object. This one goes before the real

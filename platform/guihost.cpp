@@ -48,7 +48,7 @@ QWidget *windowBehind(QWidget *parent) {
 // Rejects the box when the window behind it goes away: a box does not outlive the program's window.
 class CloseWithWindow : public QObject {
 public:
-    CloseWithWindow(QDialog *open, QWidget *window) : QObject(open), box(open) {
+    CloseWithWindow(QDialog *box, QWidget *window) : QObject(box), box_(box) {
         if (window != nullptr)
             window->installEventFilter(this);
     }
@@ -56,17 +56,23 @@ public:
 protected:
     bool eventFilter(QObject *, QEvent *event) override {
         if (event->type() == QEvent::Hide && !event->spontaneous())
-            box->reject();
+            box_->reject();
         return false;
     }
 
 private:
-    QDialog *box;
+    QDialog *box_;
 };
 
 } // namespace
 
 GuiHost::GuiHost(QObject *parent) : QObject(parent) {}
+
+// Never deleted: who asks it last, a static object on its way out, is not known.
+void GuiHost::provide() {
+    static auto *const provided = new GuiHost;
+    substituteDisplayFreeHost(provided);
+}
 
 bool GuiHost::messageBox(BoxKind kind, const QString &title, const QString &text,
                          BoxButtons buttons, QWidget *parent) {
@@ -92,11 +98,8 @@ bool GuiHost::messageBox(BoxKind kind, const QString &title, const QString &text
 }
 
 void GuiHost::processEvents() {
-    constexpr qint64 pauseNs = 1000000;
-    if (PaintScope::active() || (sinceEvents.isValid() && sinceEvents.nsecsElapsed() < pauseNs))
-        return;
-    QCoreApplication::processEvents();
-    sinceEvents.start();
+    if (!PaintScope::active())
+        Host::processEvents();
 }
 
 void GuiHost::beep() {
@@ -105,22 +108,22 @@ void GuiHost::beep() {
 }
 
 void GuiHost::postpone(const Waiting &box) {
-    const bool known = std::any_of(waiting.begin(), waiting.end(), [&box](const Waiting &other) {
+    const bool known = std::any_of(waiting_.begin(), waiting_.end(), [&box](const Waiting &other) {
         return other.kind == box.kind && other.title == box.title && other.text == box.text;
     });
     if (known)
         return;
-    waiting.append(box);
-    if (waiting.size() == 1)
+    waiting_.append(box);
+    if (waiting_.size() == 1)
         QMetaObject::invokeMethod(this, &GuiHost::showWaiting, Qt::QueuedConnection);
 }
 
 // The box on the screen stays in the list until it is closed, so that the painting that it uncovers
 // or causes does not ask for it again.
 void GuiHost::showWaiting() {
-    while (!waiting.isEmpty()) {
-        const Waiting box = waiting.first();
+    while (!waiting_.isEmpty()) {
+        const Waiting box = waiting_.first();
         messageBox(box.kind, box.title, box.text, BoxButtons::Ok, box.parent);
-        waiting.removeFirst();
+        waiting_.removeFirst();
     }
 }

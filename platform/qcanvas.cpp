@@ -1,5 +1,6 @@
 #include "platform/qcanvas.h"
 
+#include "platform/guihost.h"
 #include "platform/qcanvasitem.h"
 
 #include <QBrush>
@@ -8,6 +9,7 @@
 #include <algorithm>
 
 QCanvas::QCanvas(int width, int height) {
+    GuiHost::provide();
     // A few hundred items, all of them redrawn often: an index would cost more than it saves.
     scene_.setItemIndexMethod(QGraphicsScene::NoIndex);
     setBackgroundColor(Qt::white);

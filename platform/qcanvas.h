@@ -15,7 +15,8 @@ class QCanvasItem;
 // A canvas of whole logical pixels, (0, 0) at its top left corner. Items put themselves on it and
 // are owned by it: it deletes the ones that are left when it is destroyed. Views and canvas may go
 // in either order. Every change of an item that can be seen is repainted in all views at the event
-// loop's next turn.
+// loop's next turn. Where there is a canvas message boxes are real: items may have to say something
+// while they are painted, which takes a host that knows about painting (see guihost.h).
 class QCanvas : public QObject {
     Q_OBJECT
 

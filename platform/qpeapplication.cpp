@@ -2,6 +2,7 @@
 
 #include "platform/compactstyle.h"
 #include "platform/displaysetup.h"
+#include "platform/guihost.h"
 #include "platform/programidentity.h"
 
 #include <QFont>
@@ -19,16 +20,13 @@ int &withDisplayPrepared(int &argc, char **argv) {
 } // namespace
 
 QPEApplication::QPEApplication(int &argc, char **argv, Type)
-    : QApplication(withDisplayPrepared(argc, argv), argv), previousHost(setHost(&guiHost)) {
+    : QApplication(withDisplayPrepared(argc, argv), argv) {
+    GuiHost::provide();
     identifyProgram();
     if (!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE"))
         setStyle(new CompactStyle);
     QFont defaultFont = font();
     defaultFont.setPointSize(defaultPointSize);
     setFont(defaultFont);
-    installEventFilter(&dialogControls);
-}
-
-QPEApplication::~QPEApplication() {
-    setHost(previousHost);
+    installEventFilter(&dialogControls_);
 }

@@ -3,7 +3,6 @@
 #define PLATFORM_QPEAPPLICATION_H
 
 #include "platform/dialogcontrols.h"
-#include "platform/guihost.h"
 #include "platform/translations.h"
 
 #include <QApplication>
@@ -11,7 +10,7 @@
 // Makes a desktop fit for the forms: prepares the display (see displaysetup.h), tells the desktop
 // who the program is (see programidentity.h), takes a 9 point default font and a compact style,
 // gives modal form dialogs their controls (see dialogcontrols.h), speaks the user's language (see
-// translations.h) and installs the host with real boxes and events for as long as it lives.
+// translations.h) and provides real boxes (see guihost.h).
 class QPEApplication : public QApplication {
     Q_OBJECT
 
@@ -21,13 +20,10 @@ public:
 
     // `argc` and `argv` must outlive the application.
     QPEApplication(int &argc, char **argv, Type type = GuiClient);
-    ~QPEApplication() override;
 
 private:
-    GuiHost guiHost;
-    Host *previousHost;
-    DialogControls dialogControls;
-    Translations translations;
+    DialogControls dialogControls_;
+    Translations translations_;
 };
 
 #endif

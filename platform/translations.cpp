@@ -27,8 +27,8 @@ Translations::Translations() {
         if (QLocale(name).language() == QLocale::English)
             return;
         name.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (program.load(QStringLiteral("tavlora_") + name, QStringLiteral(":/i18n"))) {
-            install(program, toolkit, name);
+        if (program_.load(QStringLiteral("tavlora_") + name, QStringLiteral(":/i18n"))) {
+            install(program_, toolkit_, name);
             return;
         }
     }

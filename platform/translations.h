@@ -17,8 +17,8 @@ public:
     Translations &operator=(const Translations &) = delete;
 
 private:
-    QTranslator program;
-    QTranslator toolkit;
+    QTranslator program_;
+    QTranslator toolkit_;
 };
 
 #endif
