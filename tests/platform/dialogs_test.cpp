@@ -1,92 +1,111 @@
-// Boxes and dialogs on a real application: how they are answered, and when they may open.
+// Boxes and dialogs on the real application: how they look, how they are answered, and when they
+// may open.
 
 #include "forms/fabout.h"
 #include "forms/formsettings.h"
+#include "forms/formstat.h"
 #include "platform/dialogcontrols.h"
 #include "platform/guihost.h"
 #include "platform/qcanvas.h"
 #include "platform/qcanvasitem.h"
 #include "platform/qcanvasview.h"
+#include "tests/platform/nextdialog.h"
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
-#include <utility>
+#include <memory>
 
 namespace {
 
-using Buttons = QDialogButtonBox;
+using Row = QDialogButtonBox;
+using Hand = std::function<void(QDialog &)>;
 
-QPushButton *button(const QDialog &dialog, Buttons::StandardButton which) {
-    return dialog.findChild<Buttons *>()->button(which);
+QPushButton *button(const QDialog &dialog, Row::StandardButton which) {
+    return dialog.findChild<Row *>()->button(which);
 }
 
-// Does `act` to the next dialog that opens.
-void onNextDialog(const std::function<void(QDialog &)> &act) {
-    QTimer::singleShot(0, qApp, [act] {
-        auto *open = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        open != nullptr ? act(*open) : onNextDialog(act);
-    });
+Hand press(Row::StandardButton which) {
+    return [which](QDialog &dialog) { button(dialog, which)->click(); };
 }
 
-TEST(Dialogs, EveryWayOfAnsweringThem) {
-    DialogControls controls;
-    qApp->installEventFilter(&controls);
-    GuiHost host;
+Hand type(Qt::Key key) {
+    return [key](QDialog &dialog) { QTest::keyClick(&dialog, key); };
+}
+
+void returnOnCancel(QDialog &dialog) {
+    button(dialog, Row::Cancel)->setFocus();
+    QTest::keyClick(button(dialog, Row::Cancel), Qt::Key_Return);
+}
+
+void closeIt(QDialog &dialog) {
+    dialog.close();
+}
+
+TEST(Dialogs, AreAcceptedByOkAndReturnAlone) {
     formsettings settings(nullptr, nullptr, true);
     fabout about(nullptr, nullptr, true);
-    auto *window = new QWidget; // a case deletes it
-    const auto ask = [&] {
-        return host.messageBox(BoxKind::Warning, "a", "b", BoxButtons::OkCancel, window);
+    auto window = std::make_unique<QWidget>();
+    const auto choose = [&] { return settings.exec() == QDialog::Accepted; };
+    const auto credits = [&] { return about.exec() == QDialog::Accepted; };
+    const auto ask = [&](QWidget *parent) {
+        return GuiHost().messageBox(BoxKind::Warning, "a", "b", BoxButtons::OkCancel, parent);
     };
-    const auto credits = [&] { return about.exec() == 1; };
-    const auto choose = [&] { return settings.exec() == 1; };
-    const auto key = [](Qt::Key k) {
-        return [k](QDialog &dialog) { QTest::keyClick(&dialog, k); };
-    };
-    const auto ok = [](QDialog &dialog) { button(dialog, Buttons::Ok)->click(); };
-    const auto cancel = [](QDialog &dialog) { button(dialog, Buttons::Cancel)->click(); };
-    const auto returnOnCancel = [](QDialog &dialog) {
-        button(dialog, Buttons::Cancel)->setFocus();
-        QTest::keyClick(button(dialog, Buttons::Cancel), Qt::Key_Return);
-    };
+    const auto question = [&] { return ask(window.get()); };
+    const auto orphan = [&] { return ask(nullptr); };
+    const auto closeWindow = [&](QDialog &) { window->close(); };
+    const auto deleteWindow = [&](QDialog &) { window.reset(); };
     const struct {
         const char *way;
         std::function<bool()> show;
-        std::function<void(QDialog &)> act;
+        Hand hand;
         bool accepted;
     } cases[] = {
-        {"settings, Return", choose, key(Qt::Key_Return), true},
-        {"settings, Escape", choose, key(Qt::Key_Escape), false},
-        {"settings, OK", choose, ok, true},
-        {"settings, Cancel", choose, cancel, false},
+        {"settings, OK", choose, press(Row::Ok), true},
+        {"settings, Return", choose, type(Qt::Key_Return), true},
+        {"settings, Cancel", choose, press(Row::Cancel), false},
         {"settings, Return on Cancel", choose, returnOnCancel, false},
-        {"settings, title bar", choose, [](QDialog &dialog) { dialog.close(); }, false},
-        {"about, OK", credits, ok, true},
-        {"box, Return", ask, key(Qt::Key_Return), true},
-        {"box, Escape", ask, key(Qt::Key_Escape), false},
-        {"box, Cancel", ask, cancel, false},
-        {"box, window deleted", ask, [&](QDialog &) { delete std::exchange(window, nullptr); },
-         false},
+        {"settings, Escape", choose, type(Qt::Key_Escape), false},
+        {"settings, title bar", choose, closeIt, false},
+        {"about, OK", credits, press(Row::Ok), true},
+        {"box, OK", question, press(Row::Ok), true},
+        {"box, Return", question, type(Qt::Key_Return), true},
+        {"box, Cancel", question, press(Row::Cancel), false},
+        {"box, Escape", question, type(Qt::Key_Escape), false},
+        {"box, its window closed", question, closeWindow, false},
+        {"box without a parent, the window closed", orphan, closeWindow, false},
+        {"box, its window deleted", question, deleteWindow, false},
     };
-    for (const auto &[way, show, act, accepted] : cases) {
+    for (const auto &dialog : cases) {
         window->show();
-        onNextDialog(act);
-        EXPECT_EQ(show(), accepted) << way;
+        onNextDialog(dialog.hand);
+        EXPECT_EQ(dialog.show(), dialog.accepted) << dialog.way;
     }
+}
 
-    // However often they were shown, the forms have grown by one row.
-    const int row = settings.findChild<ControlRow *>()->rowHeight();
-    EXPECT_EQ(settings.size(), QSize(209, 170 + row));
-    EXPECT_LE(settings.chGiveAway->geometry().bottom(), 170 - 11);
-    EXPECT_EQ(button(about, Buttons::Cancel), nullptr) << "nothing to choose";
+// What is to be seen of a box, closed at once.
+QString shown(BoxKind kind, BoxButtons buttons) {
+    QString words;
+    onNextDialog([&](QDialog &dialog) {
+        const auto &box = dynamic_cast<QMessageBox &>(dialog);
+        words = QVariant::fromValue(box.icon()).toString() + ' ' + box.windowTitle() + ": " +
+                box.text();
+        for (const QAbstractButton *button : box.findChild<Row *>()->buttons())
+            words += " [" + button->text() + ']';
+        dialog.accept();
+    });
+    GuiHost().messageBox(kind, "title", "text", buttons);
+    return words;
+}
+
+TEST(Boxes, HaveTheIconAndTheButtonsOfTheirKind) {
+    EXPECT_EQ(shown(BoxKind::Information, BoxButtons::Ok), "Information title: text [OK]");
+    EXPECT_EQ(shown(BoxKind::Critical, BoxButtons::Ok), "Critical title: text [OK]");
+    EXPECT_EQ(shown(BoxKind::Warning, BoxButtons::OkCancel), "Warning title: text [OK] [Cancel]");
 }
 
 // Says the same at every painting, and asks what it can have no answer to.
@@ -102,7 +121,7 @@ struct Complaint : QCanvasRectangle {
     Host &host;
 };
 
-TEST(Dialogs, WhatIsSaidWhilePaintingComesOnceAndAfterwards) {
+TEST(Boxes, AskedForWhilePaintingComeOnceAndAfterwards) {
     GuiHost host;
     QCanvas canvas(20, 20);
     Complaint complaint(&canvas, host);
@@ -118,8 +137,30 @@ TEST(Dialogs, WhatIsSaidWhilePaintingComesOnceAndAfterwards) {
         });
         first.accept();
     });
-    QTest::qWait(50);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.size() == 2; }));
+    QApplication::processEvents();
     EXPECT_EQ(shown, QStringList({"first", "second"}));
+}
+
+TEST(ControlRow, StandsBelowTheFormHoweverOftenItIsShown) {
+    formsettings settings(nullptr, nullptr, true);
+    for (int time = 0; time < 3; ++time) {
+        onNextDialog(press(Row::Ok));
+        settings.exec();
+    }
+    const int height = settings.findChild<ControlRow *>()->rowHeight();
+    EXPECT_EQ(settings.size(), QSize(209, 170 + height));
+    EXPECT_EQ(settings.maximumSize(), QSize(240, 300 + height));
+    EXPECT_LE(settings.chGiveAway->geometry().bottom(), 170 - 11);
+}
+
+TEST(ControlRow, IsForModalFormsWithCancelWhereThereIsAChoice) {
+    fabout about(nullptr, nullptr, true);
+    formStat modeless;
+    about.show();
+    modeless.show();
+    EXPECT_EQ(button(about, Row::Cancel), nullptr);
+    EXPECT_EQ(modeless.findChild<ControlRow *>(), nullptr);
 }
 
 } // namespace

@@ -5,60 +5,116 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+#include <QTest>
+
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace {
 
-// A rectangle that keeps a diary of its steps and runs what it is given in them.
+// An animated rectangle that keeps a diary of its steps and runs what it is given in them.
 struct Walker : QCanvasRectangle {
-    Walker(QCanvas *on, QString letter, QString &log)
+    Walker(QCanvas *on, std::string letter, std::string &log)
         : QCanvasRectangle(0, 0, 10, 10, on), name(std::move(letter)), diary(log) {
         setAnimated(true);
+        ++alive;
     }
+    ~Walker() override { --alive; }
     void advance(int phase) override {
-        diary += name + QString::number(phase);
+        diary += name + std::to_string(phase) + ' ';
         QCanvasRectangle::advance(phase);
         if (inStep)
             inStep(phase); // may delete this
     }
-    QString name;
-    QString &diary;
+    inline static int alive = 0;
+    std::string name;
+    std::string &diary;
     std::function<void(int)> inStep;
 };
 
-TEST(QCanvas, AStepVisitsAnimatedItemsTwiceAndSurvivesWhatTheyDo) {
-    QString diary;
-    auto *canvas = new QCanvas(40, 30);
-    QCanvasView view(canvas);
-    auto *doomed = new Walker(canvas, "d", diary);
-    auto *a = new Walker(canvas, "a", diary);
-    auto *suicidal = new Walker(canvas, "x", diary);
-    auto *resting = new Walker(canvas, "r", diary);
+struct CanvasTest : testing::Test {
+    std::string diary;
+    std::unique_ptr<QCanvas> canvas = std::make_unique<QCanvas>(40, 30);
+    QCanvasView view{canvas.get()};
+    Walker *a = new Walker(canvas.get(), "a", diary);
+    Walker *b = new Walker(canvas.get(), "b", diary);
+};
+
+TEST_F(CanvasTest, AStepHasTwoPhasesAndTheSecondMoves) {
     a->setVelocity(1.5, -2);
+    b->hide(); // steps nevertheless
+    a->inStep = [&](int phase) { EXPECT_EQ(a->x(), phase == 0 ? 0 : 1.5); };
+    canvas->advance();
+    EXPECT_EQ(diary, "a0 b0 a1 b1 ");
+    EXPECT_EQ(a->y(), -2);
+}
+
+TEST_F(CanvasTest, WhoRestsGetsNoStep) {
+    a->inStep = [&](int) { b->setAnimated(false); };
+    canvas->advance();
+    a->setVelocity(0, 0);
+    canvas->advance();
+    EXPECT_EQ(diary, "a0 a1 ");
+}
+
+TEST_F(CanvasTest, ItemsMayBeDeletedInAStep) {
+    auto *c = new Walker(canvas.get(), "c", diary);
+    a->inStep = [&](int) { delete std::exchange(b, nullptr); };
+    c->inStep = [&](int phase) { phase == 0 ? void() : delete c; };
+    canvas->advance();
+    canvas->advance();
+    EXPECT_EQ(diary, "a0 c0 a1 c1 a0 a1 ");
+}
+
+TEST_F(CanvasTest, AStepInsideAStepIsAWholeOne) {
     bool nested = false;
-    a->inStep = [&](int phase) {
-        if (phase == 0)
-            delete std::exchange(doomed, nullptr);
-        else if (!std::exchange(nested, true))
+    a->inStep = [&](int) {
+        if (!std::exchange(nested, true))
             canvas->advance();
     };
-    suicidal->inStep = [&](int phase) {
-        resting->hide(); // hidden items still step
-        if (phase == 0)
-            return;
-        resting->setAnimated(false);
-        delete suicidal;
-    };
     canvas->advance();
-    EXPECT_EQ(diary, "d0a0x0r0a1a0x0r0a1x1") << "a whole step inside a's second";
-    EXPECT_EQ(QPointF(a->x(), a->y()), QPointF(3, -4));
+    EXPECT_EQ(diary, "a0 a0 b0 a1 b1 b0 a1 b1 ");
+}
 
-    a->inStep = [&](int) { delete canvas; };
+TEST_F(CanvasTest, MayGoInAStepAndTakesItsItemsWithIt) {
+    a->inStep = [&](int) { canvas.reset(); };
     canvas->advance();
-    EXPECT_EQ(diary.mid(20), "a0");
+    EXPECT_EQ(diary, "a0 ");
+    EXPECT_EQ(Walker::alive, 0);
     EXPECT_EQ(view.canvas(), nullptr);
+}
+
+// Counts its steps, also those without an item.
+struct CountingCanvas : QCanvas {
+    CountingCanvas() : QCanvas(40, 30) {}
+    void advance() override {
+        ++steps;
+        QCanvas::advance();
+    }
+    int steps = 0;
+};
+
+TEST(QCanvas, StepsByItselfOnlyWhileSomethingMoves) {
+    constexpr int period = 20;
+    CountingCanvas canvas;
+    QCanvasRectangle item(&canvas);
+    item.setVelocity(1, 0);
+    QElapsedTimer clock;
+    clock.start();
+    canvas.setAdvancePeriod(period);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return canvas.steps >= 3; }));
+    EXPECT_GE(clock.elapsed(), 3 * period - 1);
+    item.setVelocity(0, 0);
+    canvas.steps = 0;
+    QTest::qWait(2 * period);
+    EXPECT_EQ(canvas.steps, 0) << "nothing moves";
+    canvas.setAdvancePeriod(-1);
+    item.setVelocity(1, 0);
+    QTest::qWait(2 * period);
+    EXPECT_EQ(canvas.steps, 0) << "no period";
 }
 
 } // namespace
