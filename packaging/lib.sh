@@ -1,4 +1,5 @@
-# What ./play, ./check and .ci/run share; sourced by them from the root of the checkout.
+# What ./play, ./check, .ci/run and packaging/try-package share; sourced by them from the root of the
+# checkout. A script that has something to undo at its end says how by a clean_up of its own.
 # shellcheck shell=sh
 
 # Everything that building, testing and the demonstration need, by Debian package.
@@ -21,6 +22,14 @@ has() {
     command -v "$1" >/dev/null 2>&1
 }
 
+clean_up() {
+    :
+}
+watcher=
+trap 'stop_progress; clean_up' EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
 # quietly LABEL LOG command...: runs the command with its output in build/logs/LOG. Says LABEL and
 # how far it is only when it takes long, and shows the output only when it fails.
 quietly() {
@@ -31,13 +40,9 @@ quietly() {
     : >"$log" || exit 1
     show_progress "$label" "$log" &
     watcher=$!
-    trap stop_progress EXIT
-    trap 'exit 130' INT
-    trap 'exit 143' TERM
     "$@" >"$log" 2>&1 </dev/null
     status=$?
     stop_progress
-    trap - EXIT INT TERM
     if [ "$status" -ne 0 ]; then
         tail -n 60 "$log" >&2
         printf '%s: %s failed (all output: %s)\n' "${0##*/}" "$label" "$log" >&2
@@ -63,7 +68,7 @@ show_progress() {
 }
 
 stop_progress() {
-    [ -n "${watcher-}" ] || return 0
+    [ -n "$watcher" ] || return 0
     kill "$watcher" 2>/dev/null
     wait "$watcher" 2>/dev/null
     watcher=
@@ -168,7 +173,7 @@ run_tests() {
     preset=$1
     shift
     quietly "Testing" "test-$preset.log" ctest --preset "$preset" --no-tests=error \
-        --timeout 900 -j "$(getconf _NPROCESSORS_ONLN)" "$@" || return 1
+        -j "$(getconf _NPROCESSORS_ONLN)" "$@" || return 1
     say "Tests ($preset): $(grep 'tests passed' "$logs/test-$preset.log")," \
         "$(sed -n 's/^Total Test time (real) = *//p' "$logs/test-$preset.log")"
 }

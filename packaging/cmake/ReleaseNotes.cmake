@@ -47,18 +47,7 @@ endfunction()
 
 # as_changelog_moment(DATE VARIABLE): the beginning of that day as Debian's changelogs write it.
 function(as_changelog_moment date variable)
-    string(REGEX MATCH "([0-9]+)-0?([0-9]+)-0?([0-9]+)" date ${date})
-    set(y ${CMAKE_MATCH_1})
-    set(d ${CMAKE_MATCH_3})
-    # The year begins in March: a leap day is its last.
-    math(EXPR m "(${CMAKE_MATCH_2} + 9) % 12")
-    math(EXPR y "${y} - ${m} / 10")
-    math(EXPR days "365 * ${y} + ${y} / 4 - ${y} / 100 + ${y} / 400")
-    math(EXPR days "${days} + (${m} * 306 + 5) / 10 + ${d} - 1 - 719468")
-    set(epoch "$ENV{SOURCE_DATE_EPOCH}")
-    math(EXPR seconds "${days} * 86400")
-    set(ENV{SOURCE_DATE_EPOCH} ${seconds})
-    string(TIMESTAMP moment "%a, %d %b %Y %H:%M:%S +0000" UTC)
-    set(ENV{SOURCE_DATE_EPOCH} ${epoch})
+    execute_process(COMMAND date -u -R -d "${date} 00:00" OUTPUT_VARIABLE moment
+                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     set(${variable} ${moment} PARENT_SCOPE)
 endfunction()
