@@ -25,8 +25,6 @@ const struct {
     {"of the edge nothing is controlled; the side to move claims first",
      "w .b.... ...... .w.... ...... ...... ......", " .b.... w..... .w.... ...... ...... ......",
      false, false, 1},
-    {"so does black", "b .b.... ...... .w.... ...... ...... ......",
-     " .b.... b..... .w.... ...... ...... ......", false, false, -1},
     {"kings do not run; more than four squares are no better",
      "w .W.... ...... .W.... ...... .W.W.. B...W.", " .w.... ...... .w.... ...... .w.w.. b...w.",
      false, false, 3},

@@ -101,7 +101,6 @@ TEST(Moves, QuietMovesAloneAndTheMarksTheyLeave) {
         EXPECT_TRUE(rig.engine->FillNotCapturingMoveList(&list, &rig.position));
         EXPECT_EQ(moveText(list), "(5,1)-(4,0)");
         EXPECT_EQ(rig.position.squares[3][1], whiteMan) << "cannot move";
-        EXPECT_EQ(rig.position.squares[0][2], blackMan | codeCanMove) << "not its turn";
         rig.position.squares[2][2] = 0;
         rig.engine->FillNotCapturingMoveList(&list, &rig.position);
         EXPECT_EQ(moveText(list), "(1,1)-(2,2) (3,1)-(2,2) (5,1)-(4,0)");
@@ -119,10 +118,8 @@ TEST(Moves, MenAboutToPass) {
         {"white, free", "w ...... w..... ...... ...... ...... ......", true},
         {"white, blocked", "w .b.... w..... ...... ...... ...... ......", false},
         {"white, two rows to go", "w ...... ...... .w.... ...... ...... ......", false},
-        {"a king", "w ...... W..... ...... ...... ...... ......", false},
         {"black, free", "b ...... ...... ...... ...... .....b ......", true},
         {"black, blocked", "b ...... ...... ...... ...... .....b ....w.", false},
-        {"black, two rows to go", "b ...... ...... ...... ....b. ...... ......", false},
         {"white on black's last row but one", "w ...... ...... ...... ...... .w.... ......", false},
     };
     for (const auto &c : cases) {
