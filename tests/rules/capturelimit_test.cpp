@@ -3,7 +3,7 @@
 // (10,10), so every sequence ends on (10,10), and what one leaves over are closed circuits. The
 // smallest has four jumps. With the piece on (9,9) gone the way ends on (8,8).
 
-#include "rules/listingwatch.h"
+#include "search/listingwatch.h"
 #include "tests/support/enginerig.h"
 
 #include <gtest/gtest.h>
