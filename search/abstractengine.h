@@ -55,8 +55,8 @@ public:
     AbstractEngine &operator=(const AbstractEngine &) = delete;
 
     // Lists the legal moves of the board after releasing the old list's tree. True when there is
-    // none. Listing sets the can-move marks of the board's men. What lists captures asks
-    // countJump() at every jump but the first of a sequence.
+    // none. Listing sets the can-move marks of the board's men. Captures that can come in great
+    // numbers are listed under countJump().
     virtual bool FillMoveList() = 0;
     // Replaces `list` by the non-capturing moves of the side to move in `b`, captures not looked
     // at; sets the can-move marks. True when there is one.
@@ -138,18 +138,20 @@ public:
 protected:
     // Releases the engines and boards that the moves of the list own.
     void releaseTree();
-    // Counts a jump of the running listing; true when the listing is to end with what it has.
+    // To be asked at every jump but the first of a sequence of captures: true when the listing is
+    // to end there, with what it has, because the search that wanted it is broken off.
     bool countJump();
     // A static value in points for the side to move, made of a balance (white's points minus
     // black's): counts the evaluation and adds the level's random term.
     int staticValue(int balance);
 
 private:
+    class SavedRoot;
+
     bool startDriver(Score &score);
     bool runIteration(Score &score, LegalMove *&best, BestLine &line);
     bool atLevelLimit() const;
-    template <class Saved>
-    LegalMove *finishDriver(Saved &saved, const LegalMove *last);
+    LegalMove *finishDriver(SavedRoot &saved, const LegalMove *last);
 
     ListingWatch *watch_ = nullptr; // over the running listing, if any; not owned
 };

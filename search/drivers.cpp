@@ -29,9 +29,11 @@ void announceFavourite() {
     host().pause(favouritePause);
 }
 
+} // namespace
+
 // The root list after an iteration, and which of its moves was chosen. Engines and boards under the
 // moves stay shared with the live list, which later iterations only reorder.
-class SavedRoot {
+class AbstractEngine::SavedRoot {
 public:
     void save(const QValueList<LegalMove> &list, const LegalMove *chosen) {
         list_ = list;
@@ -55,8 +57,6 @@ private:
     QValueList<LegalMove> list_;
     int index_ = -1;
 };
-
-} // namespace
 
 LegalMove *AbstractEngine::getBestMove(Score &score, BestLine &line) {
     const CaptureLimitScope report;
@@ -105,8 +105,7 @@ bool AbstractEngine::atLevelLimit() const {
 
 // The move of the last completed iteration; without one, or when that named none (`last` is null
 // and nothing broke it off), the first of the list.
-template <class Saved>
-LegalMove *AbstractEngine::finishDriver(Saved &saved, const LegalMove *last) {
+LegalMove *AbstractEngine::finishDriver(SavedRoot &saved, const LegalMove *last) {
     if (last == nullptr && !breakThinking)
         saved.forget();
     if (saved.isEmpty())

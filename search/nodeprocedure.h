@@ -101,6 +101,27 @@ public:
         result.setNone(-1);
     }
 
+    // The rules of static valuation, shared with AbstractEngine's operations of these names.
+    static bool canScore(int level, int horizon, int moves) {
+        constexpr int surelyBeyond = 3;
+        if (level < horizon || moves <= 1)
+            return false;
+        return level > horizon + surelyBeyond || moves >= 3;
+    }
+
+    // Seen from the parent and counted in thousands, the material balance is already below what the
+    // parent is sure to get elsewhere. With few pieces left one unit more may be given.
+    bool senselessSacrifice(const Score &alpha, const Score &beta, Score &value) {
+        if (beta.isNone() || beta.aroundGameOver() || alpha.aroundGameOver())
+            return false;
+        value = material();
+        const int balance = -Score::hiPart(value.value) + (AbstractEngine::isGambit ? 1 : 0);
+        if (balance >= Score::hiPart(beta.value))
+            return false;
+        context().countSacrifice();
+        return true;
+    }
+
 private:
     SearchContext &context() const { return node_.context(); }
 
@@ -186,29 +207,6 @@ private:
             node_.record(result, alpha0, beta, true);
     }
 
-public:
-    // The rules of static valuation, shared with AbstractEngine's operations of these names.
-    static bool canScore(int level, int horizon, int moves) {
-        constexpr int surelyBeyond = 3;
-        if (level < horizon || moves <= 1)
-            return false;
-        return level > horizon + surelyBeyond || moves >= 3;
-    }
-
-    // Seen from the parent and counted in thousands, the material balance is already below what the
-    // parent is sure to get elsewhere. With few pieces left one unit more may be given.
-    bool senselessSacrifice(const Score &alpha, const Score &beta, Score &value) {
-        if (beta.isNone() || beta.aroundGameOver() || alpha.aroundGameOver())
-            return false;
-        value = material();
-        const int balance = -Score::hiPart(value.value) + (AbstractEngine::isGambit ? 1 : 0);
-        if (balance >= Score::hiPart(beta.value))
-            return false;
-        context().countSacrifice();
-        return true;
-    }
-
-private:
     Score material() { return turned(node_.material()); }
 
     bool staticValue(Score &value) {
