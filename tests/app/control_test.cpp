@@ -49,6 +49,8 @@ TEST_F(BreakTest, TheButtonEndsALongSearchAndNothingElseDoes) {
 TEST_F(BreakTest, EscapeHeldDownIsOneBreak) {
     duringSearch([this] { Hand::holdKey(&game, Qt::Key_Escape, 5); });
     place(startOfTen, computers);
+    game.setLevel(easy1);
+    Hand::repeatKey(&game, Qt::Key_Escape, 5);
     expectHandedOver();
 }
 

@@ -72,11 +72,15 @@ void Hand::type(const QWidget *window, Qt::Key key) {
 }
 
 void Hand::holdKey(const QWidget *window, Qt::Key key, int repeats) {
+    qt_handleKeyEvent(window->windowHandle(), QEvent::KeyPress, key, Qt::NoModifier);
+    repeatKey(window, key, repeats);
+    qt_handleKeyEvent(window->windowHandle(), QEvent::KeyRelease, key, Qt::NoModifier);
+}
+
+void Hand::repeatKey(const QWidget *window, Qt::Key key, int repeats) {
     QWindow *keyboard = window->windowHandle();
-    qt_handleKeyEvent(keyboard, QEvent::KeyPress, key, Qt::NoModifier);
     for (int repeat = 0; repeat < repeats; ++repeat) {
         qt_handleKeyEvent(keyboard, QEvent::KeyRelease, key, Qt::NoModifier, {}, true);
         qt_handleKeyEvent(keyboard, QEvent::KeyPress, key, Qt::NoModifier, {}, true);
     }
-    qt_handleKeyEvent(keyboard, QEvent::KeyRelease, key, Qt::NoModifier);
 }

@@ -31,6 +31,8 @@ public:
     static void type(const QWidget *window, Qt::Key key);
     // The key goes down and stays down for so many repeats; then it comes up.
     static void holdKey(const QWidget *window, Qt::Key key, int repeats);
+    // More repeats of a key that is down.
+    static void repeatKey(const QWidget *window, Qt::Key key, int repeats);
 
 private:
     void send(QEvent::Type type, QPoint at, Qt::MouseButtons down, Qt::MouseButton changed);
