@@ -14,10 +14,9 @@ void gameHist::clear() {
 void gameHist::insert(const board *b) {
     // The position may be one of those that are dropped.
     const board copy(*b);
-    if (!positions.isEmpty())
-        positions.truncate(current.index() + 1);
-    positions.append(copy);
-    current = --positions.end();
+    while (canFwd())
+        positions.remove(--positions.end());
+    current = positions.append(copy);
 }
 
 bool gameHist::next() {
@@ -39,11 +38,11 @@ bool gameHist::prev() {
 }
 
 bool gameHist::canFwd() const {
-    return current.index() + 1 < positions.count();
+    return !positions.isEmpty() && current != --positions.end();
 }
 
 bool gameHist::canPrev() const {
-    return current.index() > 0;
+    return current != positions.begin();
 }
 
 board *gameHist::getBoard() {

@@ -7,30 +7,32 @@
 
 namespace {
 
+using Place = QValueList<LegalMove>::iterator;
+
 // The list's entries in a heap with the smallest score on top; entry 0 is not used. The moves stay
-// where they are in the list and only pointers to them move about.
+// where they are in the list.
 class MoveHeap {
 public:
     explicit MoveHeap(QValueList<LegalMove> &list) {
         entries_.reserve(static_cast<unsigned>(list.count()) + 1);
-        entries_.push_back({0, nullptr});
-        for (LegalMove &m : list)
-            push({m.score, &m});
+        entries_.push_back({0, list.end()});
+        for (Place move = list.begin(); move != list.end(); ++move)
+            push({move->score, move});
     }
 
-    // Removes the top and returns it.
-    LegalMove *pop() {
-        LegalMove *top = entries_[1].move;
+    // Removes the top and returns its place in the list.
+    Place pop() {
+        const Place move = entries_[1].move;
         entries_[1] = entries_.back();
         entries_.pop_back();
         pushDown();
-        return top;
+        return move;
     }
 
 private:
     struct Entry {
         int score;
-        LegalMove *move;
+        Place move;
     };
 
     void push(Entry entry) {
@@ -66,7 +68,7 @@ private:
 void sortByScore(QValueList<LegalMove> &list) {
     MoveHeap heap(list);
     QValueList<LegalMove> sorted;
-    for (int left = list.count(); left > 0; --left)
-        sorted.append(std::move(*heap.pop()));
+    while (!list.isEmpty())
+        sorted.take(list, heap.pop());
     list.swap(sorted);
 }
