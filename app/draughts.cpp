@@ -2,14 +2,16 @@
 
 #include "app/draughts.h"
 
-#include "app/choices.h"
 #include "app/gamehist.h"
 #include "base/host.h"
 #include "forms/fabout.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"
+#include "rules/boardsizes.h"
+#include "rules/ruleset.h"
 #include "search/abstractengine.h"
 #include "search/hashtable.h"
+#include "search/levels.h"
 #include "search/thinkstatistic.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"
@@ -27,7 +29,6 @@ hashTable HT(10003);
 
 namespace {
 
-constexpr int firstSquares = 10;
 constexpr int firstPixels = 240;
 constexpr int stepMs = 25;
 // The engine's depth until its first search sets one.
@@ -36,10 +37,10 @@ constexpr int initialDepth = 1;
 } // namespace
 
 Draughts::Draughts(QWidget *parent, const char *name)
-    : MainForm(parent, name), squareValues(firstSquares, false) {
+    : MainForm(parent, name), squareValues(defaultSquares, false) {
     pSettings = std::make_unique<formsettings>(this, nullptr, true);
     pSettings->hide();
-    pMetrics = std::make_unique<boardMetrics>(firstSquares, firstPixels, firstPixels);
+    pMetrics = std::make_unique<boardMetrics>(defaultSquares, firstPixels, firstPixels);
     XY::B_SIZE = pMetrics->size;
     pHist = std::make_unique<gameHist>();
     connect(btnPrev, &QPushButton::clicked, this, &Draughts::histPrev);
@@ -74,8 +75,8 @@ void Draughts::createGame() {
     } else {
         pBoard->startPos(pMetrics->size);
     }
-    adoptEngine(newEngine(fallbackRules, pBoard.get(), initialDepth, pStat.get(), pMetrics->size));
-    pStat->setReqTime(fallbackLevel.seconds);
+    adoptEngine(newEngine(defaultRules, pBoard.get(), initialDepth, pStat.get(), pMetrics->size));
+    pStat->setReqTime(levels[defaultLevelItem].seconds);
     if (pEngine == nullptr) {
         host().messageBox(BoxKind::Warning, QStringLiteral("Draughts::Draughts"),
                           QStringLiteral("new engine(board*) failed"));
@@ -83,8 +84,8 @@ void Draughts::createGame() {
     danceTo = std::make_unique<QArray<XY>>();
 }
 
-void Draughts::adoptEngine(AbstractEngine *engine) {
-    pEngine.reset(engine);
+void Draughts::adoptEngine(std::unique_ptr<AbstractEngine> engine) {
+    pEngine = std::move(engine);
     AbstractEngine::setSQV(&squareValues);
     AbstractEngine::pHT = &HT;
 }

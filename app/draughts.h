@@ -173,7 +173,7 @@ private:
     // Construction and rebuilding.
     void createGame();
     void createBoard();
-    void adoptEngine(AbstractEngine *engine);
+    void adoptEngine(std::unique_ptr<AbstractEngine> engine);
     void placeView();
 
     // The phase and what shows it. In a closed window enter() sets the phase that it resumes in.

@@ -2,7 +2,6 @@
 
 #include "app/draughts.h"
 
-#include "app/choices.h"
 #include "app/gamehist.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"

@@ -2,13 +2,14 @@
 
 #include "app/draughts.h"
 
-#include "app/choices.h"
 #include "app/gamehist.h"
 #include "base/host.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"
+#include "rules/boardsizes.h"
+#include "rules/ruleset.h"
 #include "search/abstractengine.h"
-#include "search/thinkstatistic.h"
+#include "search/levels.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"
 #include "view/mycanvasview.h"
@@ -48,6 +49,11 @@ void putBack(formsettings &dialog, const Chosen &chosen) {
     dialog.giveAway = chosen.giveAway;
 }
 
+template <class Row, std::size_t count>
+bool isItem(const Row (&)[count], int index) {
+    return index >= 0 && index < static_cast<int>(count);
+}
+
 void reportUnknown(const char *title, const char *text) {
     host().messageBox(BoxKind::Critical, QString::fromLatin1(title), QString::fromLatin1(text));
 }
@@ -58,11 +64,10 @@ void Draughts::setRules(int index) {
     if (isBusy())
         return;
     pEngine.reset();
-    const std::optional<RuleSet> rules = rulesChoice(index);
-    if (!rules.has_value())
+    if (!isItem(ruleRows, index))
         reportUnknown("Draughts::setRules", "unknown rules, using international");
-    adoptEngine(
-        newEngine(rules.value_or(fallbackRules), pBoard.get(), 1, pStat.get(), pMetrics->size));
+    const RuleSet rules = isItem(ruleRows, index) ? RuleSet{index} : defaultRules;
+    adoptEngine(newEngine(rules, pBoard.get(), 1, pStat.get(), pMetrics->size));
     pEngine->FillMoveList();
 }
 
@@ -70,14 +75,14 @@ void Draughts::setRules(int index) {
 void Draughts::setBSize(int index) {
     if (isBusy())
         return;
-    const std::optional<int> choice = squaresChoice(index);
-    if (!choice.has_value())
+    if (!isItem(boardSizes, index))
         reportUnknown("Draughts::setRules", "unknown size, using international");
-    const int squares = choice.value_or(fallbackSquares);
+    const int squares = isItem(boardSizes, index) ? boardSizes[index].squares : defaultSquares;
     pMetrics->size = squares;
     XY::B_SIZE = squares;
     pBoard->startPos(squares);
-    adoptEngine(pEngine->selfClone(pBoard.get(), 1, pStat.get(), squares));
+    adoptEngine(
+        std::unique_ptr<AbstractEngine>(pEngine->selfClone(pBoard.get(), 1, pStat.get(), squares)));
     delete pView;
     pCanvas.reset();
     trash.clear();
@@ -87,17 +92,15 @@ void Draughts::setBSize(int index) {
 }
 
 void Draughts::setLevel(int index) {
-    const std::optional<Level> choice = levelChoice(index);
-    if (!choice.has_value()) {
+    Level level = levels[defaultLevelItem];
+    if (isItem(levels, index)) {
+        level = levels[index];
+    } else {
         reportUnknown("Draughts::setLevel", "unknown value, using default");
-        pSettings->cmbLevel->setCurrentIndex(fiveSecondsItem);
+        pSettings->cmbLevel->setCurrentIndex(defaultLevelItem);
+        level.scoreNoise = 1;
     }
-    const Level level = choice.value_or(fallbackLevel);
-    if (level.plies > 0)
-        pStat->setReqDepth(level.plies);
-    else
-        pStat->setReqTime(level.seconds);
-    pStat->scoreNoise = level.scoreNoise;
+    level.request(*pStat);
 }
 
 void Draughts::setGiveAway(bool on) {

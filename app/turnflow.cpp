@@ -3,7 +3,6 @@
 #include "app/draughts.h"
 
 #include "app/boarddescription.h"
-#include "app/choices.h"
 #include "app/gamehist.h"
 #include "base/host.h"
 #include "forms/formsettings.h"

@@ -5,27 +5,13 @@
 #include "bits/bitposition.h"
 #include "bits/movestack.h"
 #include "rules/capturelimit.h"
+#include "rules/ruletraits.h"
 #include "search/listingwatch.h"
 
 #include <type_traits>
 
-// In what the rule sets differ. A generator is made for one of these and one size.
-struct RuleTraits {
-    bool menCaptureBackwards;
-    bool flyingKings;
-    bool maximumCapture;     // only the captures that take the most pieces are legal
-    const char *manCapture;  // the operation that reports a man's capture beyond the limit
-    const char *kingCapture; // the same for a king's; flying kings have no limit
-};
-
-inline constexpr RuleTraits internationalRules{true, true, true, "IntEngine::genCapManMove",
-                                               nullptr};
-inline constexpr RuleTraits polishRules{true, true, false, "IntEngine::genCapManMove", nullptr};
-inline constexpr RuleTraits americanRules{false, false, false, "AmEngine::genCapManMove",
-                                          "AmEngine::genCapKingMove"};
-
-// Lists and counts the moves of one side of one position. The position is not changed; moves go on
-// top of a stack that the caller keeps.
+// Lists and counts the moves of one side of one position, by one rule set. The position is not
+// changed; moves go on top of a stack that the caller keeps.
 template <int N, const RuleTraits &Rules, bool White>
 class BitMoveGenerator {
     using Squares = DarkSquares<N>;

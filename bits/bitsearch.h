@@ -209,19 +209,4 @@ private:
     int ply_ = 0;
 };
 
-// The BitSearch of the rule set for boards of N x N squares, compiled once a size.
-template <int N>
-std::unique_ptr<DeepSearch> makeBitSearch(const RuleTraits &rules, SearchContext &context) {
-    if (&rules == &americanRules)
-        return std::make_unique<BitSearch<N, americanRules>>(context);
-    if (&rules == &polishRules)
-        return std::make_unique<BitSearch<N, polishRules>>(context);
-    return std::make_unique<BitSearch<N, internationalRules>>(context);
-}
-
-extern template std::unique_ptr<DeepSearch> makeBitSearch<6>(const RuleTraits &, SearchContext &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, SearchContext &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<10>(const RuleTraits &, SearchContext &);
-extern template std::unique_ptr<DeepSearch> makeBitSearch<12>(const RuleTraits &, SearchContext &);
-
 #endif

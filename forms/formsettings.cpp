@@ -13,12 +13,7 @@ formsettings::formsettings(QWidget *parent, const char *name, bool modal)
 }
 
 void formsettings::setDefaults() {
-    cmbPlayers->setCurrentIndex(0);
-    cmbRules->setCurrentIndex(0);
-    cmbSize->setCurrentIndex(2);
-    cmbLevel->setCurrentIndex(3);
-    chGiveAway->setChecked(false);
-
+    showDefaults();
     rulesIndex = cmbRules->currentIndex();
     sizeIndex = cmbSize->currentIndex();
     levelIndex = cmbLevel->currentIndex();

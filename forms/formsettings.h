@@ -21,8 +21,7 @@ public:
     bool giveAway = false;
 
 public slots:
-    // International rules, 10 squares, 5 seconds, human against computer, no give-away: in the
-    // widgets and in the fields.
+    // What a fresh dialog shows: in the widgets and in the fields.
     void setDefaults();
     void setRules(int i);
     void setBSize(int i);

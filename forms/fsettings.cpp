@@ -1,6 +1,9 @@
 #include "forms/fsettings.h"
 
 #include "forms/formfonts.h"
+#include "rules/boardsizes.h"
+#include "rules/ruleset.h"
+#include "search/levels.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,11 +18,12 @@ constexpr int formMargin = 11;
 constexpr int formSpacing = 6;
 constexpr int labelPoints = 9;
 
-// The items that the dialog shows as built.
-constexpr int internationalRules = 0;
-constexpr int tenSquares = 2;
-constexpr int fiveSeconds = 3;
-constexpr int humanAgainstComputer = 0;
+QStringList namesOf(const auto &rows) {
+    QStringList names;
+    for (const auto &row : rows)
+        names << fsettings::tr(row.name);
+    return names;
+}
 
 } // namespace
 
@@ -39,6 +43,7 @@ fsettings::fsettings(QWidget *parent, const char *name, bool modal, WFlags fl)
     chGiveAway = new QCheckBox(tr("Give Away"), this);
     chGiveAway->setObjectName(QStringLiteral("chGiveAway"));
     formLayout->addWidget(chGiveAway);
+    showDefaults();
 
     // The dialog is worked with the pen.
     for (QWidget *chooser : {static_cast<QWidget *>(cmbRules), static_cast<QWidget *>(cmbSize),
@@ -84,36 +89,32 @@ QHBoxLayout *fsettings::addRow(QLabel *label, QComboBox *combo) {
 
 void fsettings::addRulesAndSize() {
     TextLabel1_2 = addLabel("TextLabel1_2", tr("Rules"));
-    cmbRules = addCombo("cmbRules", {tr("International"), tr("American"), tr("Polish Traditional")},
-                        tr("game rules"));
-    cmbRules->setCurrentIndex(internationalRules);
+    cmbRules = addCombo("cmbRules", namesOf(ruleRows), tr("game rules"));
     rulesLayout = addRow(TextLabel1_2, cmbRules);
 
     TextLabel1_2_2 = addLabel("TextLabel1_2_2", tr("Board Size"));
-    cmbSize = addCombo(
-        "cmbSize",
-        {tr("6 for fun"), tr("8 checkers,brazylian"), tr("10 international"), tr("12 canadian")},
-        tr("board size"));
-    cmbSize->setCurrentIndex(tenSquares);
+    cmbSize = addCombo("cmbSize", namesOf(boardSizes), tr("board size"));
     sizeLayout = addRow(TextLabel1_2_2, cmbSize);
 }
 
 void fsettings::addLevelAndPlayers() {
     TextLabel1 = addLabel("TextLabel1", tr("level"));
-    cmbLevel =
-        addCombo("cmbLevel",
-                 {tr("Easy 1"), tr("Easy 2"), tr("2 sec/move"), tr("5 sec/move"), tr("10 sec/move"),
-                  tr("20 sec/move"), tr("1 min/move"), tr("infinite (until break)")},
-                 tr("thinking level"));
-    cmbLevel->setCurrentIndex(fiveSeconds);
+    cmbLevel = addCombo("cmbLevel", namesOf(levels), tr("thinking level"));
     levelLayout = addRow(TextLabel1, cmbLevel);
 
     TextLabelP = addLabel("TextLabelP", tr("Players"));
     cmbPlayers =
         addCombo("cmbPlayers", {tr("Human-Computer"), tr("Human-Human"), tr("Computer-Computer")},
                  QString());
-    cmbPlayers->setCurrentIndex(humanAgainstComputer);
     playersLayout = addRow(TextLabelP, cmbPlayers);
+}
+
+void fsettings::showDefaults() {
+    cmbPlayers->setCurrentIndex(humanComputer);
+    cmbRules->setCurrentIndex(static_cast<int>(defaultRules));
+    cmbSize->setCurrentIndex(defaultSizeItem);
+    cmbLevel->setCurrentIndex(defaultLevelItem);
+    chGiveAway->setChecked(false);
 }
 
 void fsettings::setFonts() {

@@ -13,6 +13,9 @@ class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
 
+// The items of the players' combo box.
+enum PlayersItem { humanComputer = 0, humanHuman = 1, computerComputer = 2 };
+
 // Four rows of a label and a combo box, and a check box. It keeps no choice of its own and has no
 // OK or Cancel: those come from the window system. The children belong to the dialog.
 class fsettings : public QDialog {
@@ -41,6 +44,8 @@ protected:
     QHBoxLayout *levelLayout;
     QHBoxLayout *playersLayout;
 
+    // Sets all choosers to what they show as built.
+    void showDefaults();
     // Sets the children's fonts again when the application's font changes.
     bool event(QEvent *e) override;
 

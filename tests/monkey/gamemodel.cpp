@@ -22,7 +22,7 @@ enum PlayersItem { humanComputer, humanHuman, computerComputer };
 struct Judge {
     Judge(int rules, const board &b)
         : position(b), squaresOfTheWindow(std::exchange(XY::B_SIZE, b.size)),
-          engine(newEngine(allRuleSets[rules], &position, 1, &statistic, b.size)) {
+          engine(ruleRows[rules].newEngine(&position, 1, &statistic, b.size)) {
         engine->FillMoveList();
     }
     ~Judge() { XY::B_SIZE = squaresOfTheWindow; }

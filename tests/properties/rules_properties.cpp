@@ -3,6 +3,7 @@
 #include "bits/bitanalysis.h"
 #include "bits/bitmaterial.h"
 #include "bits/bitmovegenerator.h"
+#include "bits/dispatch.h"
 #include "eval/heuristic.h"
 #include "tests/properties/harness.h"
 #include "tests/properties/situation.h"
@@ -120,20 +121,14 @@ void compare(EngineRig &rig, const std::string &where) {
         Comparison<N, Rules, false>(rig, where).run();
 }
 
-template <const RuleTraits &Rules>
-constexpr void (*bySize[])(EngineRig &, const std::string &) = {
-    compare<6, Rules>, compare<8, Rules>, compare<10, Rules>, compare<12, Rules>};
-
 void bitsSayWhatTheEngineSays(Bytes &bytes) {
     const bool gambit = bytes.below(2) == 1;
     const Situation situation = readSituation(bytes);
     EngineRig rig(situation.rules, situation.position);
     rig.values.reFill(situation.position.size, gambit);
     AbstractEngine::isGambit = gambit;
-    const auto *compareSize = situation.rules == RuleSet::American ? bySize<americanRules>
-                              : situation.rules == RuleSet::Polish ? bySize<polishRules>
-                                                                   : bySize<internationalRules>;
-    compareSize[situation.position.size / 2 - 3](rig, describe(situation));
+    dispatchBits(situation.rules, situation.position.size,
+                 [&](auto form) { compare<form.squares, form.rules>(rig, describe(situation)); });
 }
 
 } // namespace

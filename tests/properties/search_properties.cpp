@@ -173,8 +173,7 @@ void playGame(const Request &request, const Situation &start) {
     for (int ply = 0; ply < mostPlies; ++ply) {
         const std::string where = describe({start.rules, rig.position});
         board copy = rig.position;
-        const std::unique_ptr<AbstractEngine> referee(
-            newEngine(start.rules, &copy, 1, &rig.statistic, copy.size));
+        const auto referee = newEngine(start.rules, &copy, 1, &rig.statistic, copy.size);
         referee->FillMoveList();
         LegalMove *move = searchSoundly(rig, where);
         if (move == nullptr)

@@ -1,12 +1,10 @@
 #include "tests/properties/situation.h"
 
+#include "rules/boardsizes.h"
 #include "rules/legalmove.h"
-#include "search/abstractengine.h"
 
 #include <QString>
 #include <QTextStream>
-
-#include <memory>
 
 namespace {
 
@@ -18,7 +16,7 @@ constexpr unsigned char pieces[] = {0,         whiteMan, blackMan, whiteKing,
 constexpr int mostAmongKings = 18;
 
 void playGame(Bytes &bytes, RuleSet rules, board &b) {
-    const std::unique_ptr<AbstractEngine> engine(newEngine(rules, &b, 1, nullptr, b.size));
+    const auto engine = newEngine(rules, &b, 1, nullptr, b.size);
     while (!bytes.empty() && !engine->FillMoveList())
         engine->makeMove(&b, engine->getLegalMove(bytes.below(engine->moveList.count())));
 }
@@ -47,9 +45,9 @@ void scatter(Bytes &bytes, board &b) {
 
 Situation readSituation(Bytes &bytes) {
     const int first = bytes.take();
-    const int size = allBoardSizes[first / 3 % 4];
+    const int size = boardSizes[first / 3 % 4].squares;
     XY::B_SIZE = size;
-    Situation situation{allRuleSets[first % 3], board(size)};
+    Situation situation{ruleRows[first % 3].id, board(size)};
     board &b = situation.position;
     if (first / 24 % 2 == 0) {
         playGame(bytes, situation.rules, b);
@@ -72,7 +70,6 @@ std::string lineOf(const board &b) {
 }
 
 std::string describe(const Situation &situation) {
-    constexpr const char *words[] = {"international", "american", "polish"};
-    return std::string("position ") + words[static_cast<int>(situation.rules)] + " normal 4 " +
+    return std::string("position ") + rowOf(situation.rules).word + " normal 4 " +
            lineOf(situation.position);
 }

@@ -92,8 +92,8 @@ TEST(Moves, WhatAMoveLeaves) {
 
 // The man on (1,1) could capture, the one on (3,1) is blocked, the king has nothing to mark.
 TEST(Moves, QuietMovesAloneAndTheMarksTheyLeave) {
-    for (const RuleSet rules : allRuleSets) {
-        EngineRig rig(rules, "w ...... ...... ...... b.b.b. .w.w.W ......");
+    for (const RuleRow &rules : ruleRows) {
+        EngineRig rig(rules.id, "w ...... ...... ...... b.b.b. .w.w.W ......");
         rig.position.squares[3][1] |= codeCanMove;
         rig.position.squares[0][2] |= codeCanMove;
         QValueList<LegalMove> list;

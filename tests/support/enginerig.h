@@ -3,7 +3,6 @@
 #define TESTS_SUPPORT_ENGINERIG_H
 
 #include "eval/squaresvalue.h"
-#include "rules/intengine.h"
 #include "rules/ruleset.h"
 #include "search/bestline.h"
 #include "search/hashtable.h"
@@ -35,7 +34,7 @@ struct EngineRig {
         AbstractEngine::absHorizon = -1;
         AbstractEngine::setSQV(&values);
         AbstractEngine::setHashTable(&table);
-        engine.reset(newEngine(rules, &position, 1, &statistic, b.size));
+        engine = newEngine(rules, &position, 1, &statistic, b.size);
     }
     EngineRig(RuleSet rules, const std::string &picture) : EngineRig(rules, drawn(picture)) {}
     ~EngineRig() {

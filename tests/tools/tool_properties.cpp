@@ -2,6 +2,7 @@
 // the tools can work with.
 
 #include "bits/bitposition.h"
+#include "bits/dispatch.h"
 #include "tests/properties/editedtext.h"
 #include "tests/properties/harness.h"
 #include "tests/properties/situation.h"
@@ -21,9 +22,10 @@ void want(bool good, const char *what, const std::string &where) {
 
 // What the bit sets can hold is a good position.
 void wantPlayable(const board &b, const std::string &where) {
-    want(BitPosition<6>::representable(b) || BitPosition<8>::representable(b) ||
-             BitPosition<10>::representable(b) || BitPosition<12>::representable(b),
-         "a bad position was accepted", where);
+    bool good = false;
+    dispatchBits(defaultRules, b.size,
+                 [&](auto form) { good = BitPosition<form.squares>::representable(b); });
+    want(good, "a bad position was accepted", where);
     want(b.plyCount >= 0, "a negative ply counter was accepted", where);
     want(b.whiteToMove == (b.plyCount % 2 == 0), "the wrong side is to move", where);
 }

@@ -1,5 +1,7 @@
 #include "tools/common/positionline.h"
 
+#include "rules/boardsizes.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -10,14 +12,6 @@ constexpr int mostPlies = 1000000;
 
 constexpr int fieldCount = 6;
 enum Field { fieldSize, fieldPly, fieldKey, fieldScore, fieldHorizon, fieldSquares };
-
-struct NamedRules {
-    const char *name;
-    RuleSet rules;
-};
-constexpr NamedRules namedRules[] = {{"international", RuleSet::International},
-                                     {"american", RuleSet::American},
-                                     {"polish", RuleSet::Polish}};
 
 // The code of a square's two letters, -1 when they are not such.
 int codeOf(const QString &letters) {
@@ -72,6 +66,12 @@ QString readSquares(const QString &text, board &b) {
     return {};
 }
 
+// "one, two or three"
+QString alternatives(QStringList words) {
+    const QString last = words.takeLast();
+    return words.join(", ") + " or " + last;
+}
+
 } // namespace
 
 std::optional<board> readPositionLine(const QString &line, QString &error) {
@@ -84,9 +84,8 @@ std::optional<board> readPositionLine(const QString &line, QString &error) {
         return {};
     }
     const int size = fields[fieldSize].toInt();
-    if (std::find(std::begin(allBoardSizes), std::end(allBoardSizes), size) ==
-        std::end(allBoardSizes)) {
-        error = QString("the size must be 6, 8, 10 or 12, not \"%1\"").arg(fields[fieldSize]);
+    if (!isBoardSize(size)) {
+        error = QString("the size must be %1, not \"%2\"").arg(sizeWords(), fields[fieldSize]);
         return {};
     }
     board b(size);
@@ -100,18 +99,21 @@ std::optional<board> readPositionLine(const QString &line, QString &error) {
     return b;
 }
 
-std::optional<RuleSet> ruleSetOf(const QString &name) {
-    for (const NamedRules &named : namedRules) {
-        if (name == named.name)
-            return named.rules;
-    }
-    return {};
+std::optional<RuleSet> ruleSetOf(const QString &word) {
+    const auto *row = std::ranges::find(ruleRows, word, &RuleRow::word);
+    return row == std::end(ruleRows) ? std::nullopt : std::optional(row->id);
 }
 
-QString nameOf(RuleSet rules) {
-    for (const NamedRules &named : namedRules) {
-        if (named.rules == rules)
-            return named.name;
-    }
-    return {};
+QString ruleWords() {
+    QStringList words;
+    for (const RuleRow &row : ruleRows)
+        words << row.word;
+    return alternatives(words);
+}
+
+QString sizeWords() {
+    QStringList words;
+    for (const BoardSize &size : boardSizes)
+        words << QString::number(size.squares);
+    return alternatives(words);
 }

@@ -1,10 +1,9 @@
 #include "tools/perft/options.h"
 
+#include "rules/boardsizes.h"
 #include "tools/common/positionline.h"
 
 #include <QCommandLineParser>
-
-#include <algorithm>
 
 namespace {
 
@@ -16,9 +15,8 @@ QString readPosition(const QCommandLineParser &parser, PerftOptions &options) {
     const QString sizeText = parser.value("size");
     if (positions.isEmpty()) {
         const int size = sizeText.toInt();
-        if (std::find(std::begin(allBoardSizes), std::end(allBoardSizes), size) ==
-            std::end(allBoardSizes))
-            return QString("the size must be 6, 8, 10 or 12, not \"%1\"").arg(sizeText);
+        if (!isBoardSize(size))
+            return QString("the size must be %1, not \"%2\"").arg(sizeWords(), sizeText);
         options.position = board(size);
         return {};
     }
@@ -40,13 +38,15 @@ void describePerft(QCommandLineParser &parser) {
         "a position line (size, ply, key, score, horizon, squares), given as the argument or, for "
         "\"-\", on standard input, where there may be several. Every route of a capture counts.");
     parser.addOption({{"r", "rules"},
-                      "international (the default), american or polish.",
+                      QString("%1; without it %2.").arg(ruleWords(), rowOf(defaultRules).word),
                       "rules",
-                      "international"});
+                      rowOf(defaultRules).word});
     parser.addOption({{"s", "size"},
-                      "Start position of 6, 8, 10 (the default) or 12 squares a side.",
+                      QString("Start position of %1 squares a side; without it %2.")
+                          .arg(sizeWords())
+                          .arg(defaultSquares),
                       "size",
-                      "10"});
+                      QString::number(defaultSquares)});
     parser.addOption({{"d", "depth"},
                       QString("Count up to so many plies, 1 to %1.").arg(mostDepth),
                       "plies",

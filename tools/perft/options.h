@@ -10,7 +10,7 @@
 class QCommandLineParser;
 
 struct PerftOptions {
-    RuleSet rules = RuleSet::International;
+    RuleSet rules = defaultRules;
     int depth = 0; // plies
     bool divide = false;
     bool leavesOnly = false;

@@ -2,12 +2,11 @@
 
 #include "bits/bitmovegenerator.h"
 #include "bits/bitposition.h"
-#include "rules/intengine.h"
+#include "bits/dispatch.h"
 #include "rules/legalmove.h"
 #include "search/hashtable.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -84,20 +83,6 @@ private:
     quint64 counted_ = 0;
 };
 
-template <int N>
-quint64 countFor(RuleSet rules, const board &b, int depth, bool distinct,
-                 const Perft::Progress &progress) {
-    switch (rules) {
-    case RuleSet::American:
-        return Counter<N, americanRules>(distinct, progress).count(b, depth);
-    case RuleSet::Polish:
-        return Counter<N, polishRules>(distinct, progress).count(b, depth);
-    case RuleSet::International:
-        break;
-    }
-    return Counter<N, internationalRules>(distinct, progress).count(b, depth);
-}
-
 } // namespace
 
 Perft::Perft(RuleSet rules, const board &b) : rules_(rules), position_(b) {}
@@ -108,23 +93,18 @@ quint64 Perft::count(int depth) const {
 }
 
 quint64 Perft::countFrom(const board &b, int depth) const {
-    switch (b.size) {
-    case 6:
-        return countFor<6>(rules_, b, depth, distinct_, progress_);
-    case 8:
-        return countFor<8>(rules_, b, depth, distinct_, progress_);
-    case 10:
-        return countFor<10>(rules_, b, depth, distinct_, progress_);
-    default:
-        return countFor<12>(rules_, b, depth, distinct_, progress_);
-    }
+    quint64 positions = 0;
+    dispatchBits(rules_, b.size, [&](auto form) {
+        positions = Counter<form.squares, form.rules>(distinct_, progress_).count(b, depth);
+    });
+    return positions;
 }
 
 std::vector<Perft::Share> Perft::divide(int depth) const {
     const CaptureLimitScope report;
     XY::B_SIZE = position_.size;
     board b = position_;
-    const std::unique_ptr<AbstractEngine> engine(newEngine(rules_, &b, 1, nullptr, b.size));
+    const auto engine = newEngine(rules_, &b, 1, nullptr, b.size);
     engine->FillMoveList();
     std::vector<Share> shares;
     std::vector<std::pair<XY, board>> played;

@@ -1,3 +1,0 @@
-#include "bits/bitsearch.h"
-
-template std::unique_ptr<DeepSearch> makeBitSearch<8>(const RuleTraits &, SearchContext &);
