@@ -1,4 +1,6 @@
 #include "tools/bench/benchrun.h"
+#include "tools/bench/movetimes.h"
+#include "tools/bench/options.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +14,24 @@ TEST(Bench, SearchesFindWhatTheyFoundBefore) {
     for (const bool straightforward : {true, false}) {
         QString error;
         Signature signature;
-        for (BenchTask &task : readTasks(builtInTasks(), error)) {
+        for (BenchTask &task : readTasks(tasksText(BenchOptions(), error), error)) {
             task.depth = 4;
             signature.add(runTask(task, straightforward));
         }
         EXPECT_EQ(signature.text(), recorded) << (straightforward ? "over engines" : "on bit sets");
     }
+}
+
+TEST(Bench, MoveTimesAreToldByPercentiles) {
+    Distribution times;
+    for (const double time : {40, 10, 100, 20, 30, 60, 50, 80, 70, 90})
+        times.add(time);
+    EXPECT_EQ(times.count(), 10);
+    EXPECT_EQ(times.mean(), 55);
+    EXPECT_EQ(times.percentile(50), 50) << "five of ten took no longer";
+    EXPECT_EQ(times.percentile(90), 90);
+    EXPECT_EQ(times.percentile(95), 100);
+    EXPECT_EQ(times.percentile(100), 100);
 }
 
 } // namespace

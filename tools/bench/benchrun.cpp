@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr int hashSlots = 10003;
-
 std::optional<BenchTask> readTask(const QString &line, QString &error) {
     QStringList fields = line.split(' ', Qt::SkipEmptyParts);
     if (fields.size() < 5) {
@@ -75,12 +73,11 @@ BenchResult runTask(const BenchTask &task, bool straightforward) {
     board position = task.position;
     XY::B_SIZE = position.size;
     SquaresValue squareValues(position.size, false);
-    hashTable table(hashSlots);
+    hashTable table(benchHashSlots);
     AbstractEngine::setSQV(&squareValues);
     AbstractEngine::setHashTable(&table);
     AbstractEngine::eventLoop = 0;
-    const std::unique_ptr<AbstractEngine> engine(
-        newEngine(task.rules, &position, 1, &result.statistic, position.size));
+    const auto engine = newEngine(task.rules, &position, 1, &result.statistic, position.size);
     engine->deepSearchAllowed = !straightforward;
 
     Score score(0, -1);

@@ -11,7 +11,7 @@
 
 struct BenchTask {
     QString name;
-    RuleSet rules = RuleSet::International;
+    RuleSet rules = defaultRules;
     bool giveAway = false;
     int depth = 1;   // plies
     int seconds = 0; // above 0: search that long instead
@@ -27,16 +27,15 @@ struct BenchResult {
     qint64 microseconds = 0;
 };
 
+// The transposition table of every search, as in the game.
+inline constexpr int benchHashSlots = 10003;
+
 // The deepest search that can be asked for, in plies.
 inline constexpr int mostDepth = 99;
 
 // Reads tasks, one a line: name, rules, "normal" or "giveaway", depth in plies, then the position
 // line; '#' starts a comment. Stops at the first bad line, with its number and fault in `error`.
 QList<BenchTask> readTasks(const QString &text, QString &error);
-
-// The fixed positions of the bench: every rule set and size with an opening, a middle game and a
-// king ending, some played give-away.
-QString builtInTasks();
 
 // Searches the task to its depth, or for its time, without the random term. `straightforward`
 // searches every node over engines and boards instead of bit sets; the result is the same.

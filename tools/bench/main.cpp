@@ -1,6 +1,7 @@
 // bench: searches fixed positions to a fixed depth and prints what the search found and how fast.
 
 #include "tools/bench/benchrun.h"
+#include "tools/bench/movetimes.h"
 #include "tools/bench/options.h"
 #include "tools/common/commandline.h"
 
@@ -76,6 +77,11 @@ int main(int argc, char **argv) {
     BenchOptions options;
     if (const QString wrong = readBenchOptions(parser, options); !wrong.isEmpty())
         return fail(wrong);
+    if (options.moveTimes > 0) {
+        QTextStream out(stdout);
+        printMoveTimes(out, options.moveTimes, levels[options.level]);
+        return 0;
+    }
     QString error;
     QList<BenchTask> tasks = readTasks(tasksText(options, error), error);
     if (!error.isEmpty())

@@ -1,13 +1,25 @@
 #include "tools/bench/options.h"
 
+#include "search/levels.h"
 #include "tools/bench/benchrun.h"
 
 #include <QCommandLineParser>
 #include <QFile>
 
+#include <iterator>
+
 namespace {
 
 constexpr qint64 mostFileBytes = 16 << 20;
+
+bool readLevel(const QString &text, int &item) {
+    bool good = false;
+    item = text.toInt(&good);
+    if (!good || item < 0 || item >= static_cast<int>(std::size(levels)))
+        return false;
+    const int seconds = levels[item].seconds;
+    return seconds > 0 && seconds < thinkStatistic::unlimitedSeconds;
+}
 
 } // namespace
 
@@ -29,7 +41,8 @@ void describeBench(QCommandLineParser &parser) {
                       "Read the positions from a file: on each line a name, the rules "
                       "(international, american, polish), normal or giveaway, the depth in plies, "
                       "and a position line.",
-                      "file"});
+                      "file",
+                      BenchOptions().file});
     parser.addOption({{"o", "only"},
                       "Only the position of this name or, where there is none, those "
                       "whose names contain it.",
@@ -40,6 +53,15 @@ void describeBench(QCommandLineParser &parser) {
     parser.addOption({{"s", "straightforward"},
                       "Search over engines and boards only, without the "
                       "bit sets: slow, with the same results."});
+    parser.addOption(
+        {"move-times",
+         "Instead of all that: let the computer play against itself and tell how long "
+         "so many of its moves took, in milliseconds and as a share of what they might.",
+         "moves"});
+    parser.addOption({"level",
+                      "The playing level of these games: an item of the settings that has a time, "
+                      "from 0 on; without it 2, for 2 seconds a move.",
+                      "item", "2"});
 }
 
 QString readBenchOptions(const QCommandLineParser &parser, BenchOptions &options) {
@@ -56,8 +78,15 @@ QString readBenchOptions(const QCommandLineParser &parser, BenchOptions &options
     if (!parser.positionalArguments().isEmpty())
         return QString("unexpected argument \"%1\"").arg(parser.positionalArguments().first());
     options.file = parser.value("positions");
-    if (parser.isSet("positions") && options.file.isEmpty())
+    if (options.file.isEmpty())
         return "the positions file has no name";
+    options.moveTimes = parser.value("move-times").toInt();
+    if (parser.isSet("move-times") && options.moveTimes < 1)
+        return QString("the number of moves must be 1 or more, not \"%1\"")
+            .arg(parser.value("move-times"));
+    if (!readLevel(parser.value("level"), options.level))
+        return QString("the level must be an item that has a time, not \"%1\"")
+            .arg(parser.value("level"));
     options.only = parser.value("only");
     options.machine = parser.isSet("machine");
     options.straightforward = parser.isSet("straightforward");
@@ -65,8 +94,6 @@ QString readBenchOptions(const QCommandLineParser &parser, BenchOptions &options
 }
 
 QString tasksText(const BenchOptions &options, QString &error) {
-    if (options.file.isEmpty())
-        return builtInTasks();
     QFile file(options.file);
     if (!file.open(QIODevice::ReadOnly)) {
         error = QString("cannot read %1: %2").arg(options.file, file.errorString());
