@@ -14,7 +14,7 @@ protected:
             else if (round > 4 && game.thinks())
                 game.breakThinking();
         };
-        place(startOfTen, 0);
+        place(startOfTen);
         game.setLevel(infinite);
         press(game.btnForce);
     }
@@ -41,15 +41,13 @@ TEST_F(InterruptionTest, NestedHandOverLeavesThePlayersAsTheyAreNow) {
     EXPECT_EQ(boxes(), nested + nested) << "one a call";
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
     EXPECT_EQ(game.pView->cursor().shape(), Qt::ArrowCursor);
-    taps("53 44");
-    EXPECT_TRUE(game.flies());
 }
 
 TEST_F(InterruptionTest, ClosingInTheWarningEndsTheSearchWithoutAMove) {
     host.onBox = [this] { game.close(); };
     search([this] { game.DoPlayerMove(); });
     EXPECT_EQ(boxes(), nested);
-    EXPECT_EQ(game.phase(), Draughts::Phase::Closed);
+    EXPECT_TRUE(game.isClosed());
     EXPECT_EQ(position(), picture(drawn(startOfTen)));
 }
 
@@ -62,24 +60,6 @@ TEST_F(InterruptionTest, HandOverInAFlightWaitsForItsEnd) {
     expectAgreement();
 }
 
-TEST_F(InterruptionTest, ReopenedWindowKeepsTheMoveBeingEntered) {
-    tap(5, 3);
-    game.close();
-    tap(1, 3);
-    game.show();
-    EXPECT_EQ(marked(MarkNext), "(4,4) (6,4)");
-    tap(4, 4);
-    EXPECT_TRUE(game.flies());
-}
-
-TEST_F(InterruptionTest, ReopenedWindowSearchesAgain) {
-    search([this] { game.close(); });
-    game.show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return game.flies(); }));
-    land();
-    EXPECT_EQ(status(), playersTurn);
-}
-
 TEST_F(InterruptionTest, ReopenedDuringItsLastSearchItSearchesAgain) {
     search([this] {
         game.close();
@@ -88,39 +68,4 @@ TEST_F(InterruptionTest, ReopenedDuringItsLastSearchItSearchesAgain) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return game.flies(); }));
     land();
     EXPECT_EQ(status(), playersTurn);
-}
-
-TEST_F(InterruptionTest, ReopenedWindowCompletesTheFlight) {
-    for (const int stepsWhileClosed : {2, 20}) { // a flight takes six
-        place(startOfTen);
-        taps("53 44");
-        game.close();
-        for (int step = 0; step < stepsWhileClosed; ++step)
-            game.pCanvas->advance();
-        EXPECT_EQ(game.pBoard->plyCount, 0);
-        game.show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return game.pBoard->plyCount == 1; }));
-        EXPECT_EQ(status(), playersTurn);
-        expectAgreement();
-    }
-}
-
-TEST_F(InterruptionTest, ConfirmingANewGameAfterClosingChangesNothing) {
-    taps("53 44");
-    land(2);
-    const std::string played = position();
-    host.onBox = [this] { game.close(); };
-    press(game.btnNewGame);
-    EXPECT_EQ(boxes(), newGameBox);
-    EXPECT_EQ(position(), played);
-}
-
-TEST_F(InterruptionTest, ClosingInAWarningAboutSpritesStartsNoSearch) {
-    place(startOfTen, humans);
-    game.pieces[0][0]->hide();
-    host.onBox = [this] { game.close(); };
-    game.whiteComputer = 1;
-    game.DoPlayerMove();
-    EXPECT_EQ(boxes(), "warning: Draughts::testPieces: visible==captured [Ok]\n");
-    EXPECT_EQ(host.eventRounds, 0);
 }

