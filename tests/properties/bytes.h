@@ -2,6 +2,7 @@
 #ifndef TESTS_PROPERTIES_BYTES_H
 #define TESTS_PROPERTIES_BYTES_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -12,6 +13,12 @@ public:
     bool empty() const { return next_ == end_; }
     // The next byte, 0 when there are no more.
     int take() { return empty() ? 0 : *next_++; }
+    // The next n bytes, or fewer when there are no more, to be taken apart by themselves.
+    Bytes front(std::ptrdiff_t n) {
+        const std::uint8_t *const start = next_;
+        next_ += std::min(n, end_ - next_);
+        return {start, static_cast<std::size_t>(next_ - start)};
+    }
     // A number from 0 to n - 1, n at most 256.
     int below(int n) { return take() % n; }
     // One of the items of an array.

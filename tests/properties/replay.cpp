@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <vector>
 
@@ -21,9 +20,9 @@ extern "C" const char *__asan_default_options() { // NOLINT(bugprone-reserved-id
 namespace {
 
 constexpr char usage[] =
-    "usage: PROGRAM [--seed S] [--random N] [FILE...]\n"
+    "usage: PROGRAM [--seed S] [--random N] [CASES...]\n"
     "Runs N cases of random bytes, the first of seed S, the others of those that follow, and the\n"
-    "cases in files: NAME.cases has one a line, in hexadecimal digits, any other file is one.\n";
+    "cases in files, which have one a line, in hexadecimal digits.\n";
 
 std::string running; // the arguments to see this case again
 
@@ -55,16 +54,12 @@ Input fromHexadecimal(const std::string &digits) {
     return input;
 }
 
-bool runFile(const std::string &path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!path.ends_with(".cases")) {
-        run({std::istreambuf_iterator<char>(file), {}}, path);
-        return file.good() || file.eof();
-    }
+bool runCases(const std::string &path) {
+    std::ifstream file(path);
     int number = 0;
     for (std::string line; std::getline(file, line);) {
         ++number;
-        if (!line.empty() && line.front() != '#')
+        if (!line.starts_with('#'))
             run(fromHexadecimal(line), path + ", line " + std::to_string(number));
     }
     return number > 0;
@@ -80,7 +75,7 @@ int main(int argc, char **argv) {
     for (int i = 1; i < argc && good; ++i) {
         const std::string option = argv[i];
         if (!option.starts_with("--")) {
-            good = runFile(option);
+            good = runCases(option);
             continue;
         }
         const int value = ++i < argc ? std::atoi(argv[i]) : 0;

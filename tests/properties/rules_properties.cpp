@@ -77,13 +77,6 @@ private:
             compareMoves(engine_.moveList, stack);
     }
 
-    // The men of this code that stand on passages.
-    static auto passing(const board &b, const heuristic &h, int man) {
-        return Squares::select([&](int x, int y) {
-            return (b.squares[x][y] & codePiece) == man && h.getPassage(x, y) != 0;
-        });
-    }
-
     void compareValues() {
         heuristic h;
         int freedom = 0;
@@ -95,10 +88,6 @@ private:
         const int side = White ? 1 : -1;
         compare("a man can pass", canPass, bits.canPass());
         compare("freedom", freedom, side * AbstractEngine::freedomValue * bits.freedom());
-        if (passing(*engine_.board, h, whiteMan) != white)
-            reportFault("white's men on passages", where_);
-        if (passing(*engine_.board, h, blackMan) != black)
-            reportFault("black's men on passages", where_);
         const BitMaterial<N, Rules.flyingKings> material(*AbstractEngine::pSQV,
                                                          AbstractEngine::isGambit);
         compare("value", engine_.materialScore(nullptr), side * material.balance(position_, 0, 0));

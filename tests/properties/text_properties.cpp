@@ -1,14 +1,19 @@
-// Positions and tables as text: whatever is read, what is then written reads back as the same.
+// What is read as text: written positions and tables read back as the same, and what users give the
+// tools is either refused with a message or something that the tools can work with.
 
-#include "tests/properties/editedtext.h"
+#include "bits/bitposition.h"
+#include "bits/dispatch.h"
 #include "tests/properties/harness.h"
 #include "tests/properties/situation.h"
 #include "tests/properties/tablefault.h"
 #include "tests/support/enginerig.h"
+#include "tools/bench/benchrun.h"
+#include "tools/bench/options.h"
 
+#include <QCommandLineParser>
+#include <QStringList>
 #include <QTextStream>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -16,15 +21,44 @@ namespace {
 // The reader's complaints about keys would drown what else is said.
 const bool quiet = std::freopen("/dev/null", "w", stdout) != nullptr;
 
-std::string readAndWritten(QTextStream &&stream, int size) {
-    board b(size);
-    b.fromStream(stream);
-    return lineOf(b) + (b.whiteToMove ? ", white" : ", black");
+// Texts as careless users write them: up to six times a part of a good one is written twice, or
+// gives way to a word that readers stumble over.
+class Edits {
+public:
+    explicit Edits(Bytes &bytes) : changes_(bytes.front(3 * bytes.below(7))) {}
+
+    std::string of(std::string text) const {
+        constexpr const char *words[] = {
+            "",  " ",  "\n", "\t", "wm",     "--",      "#",  "//idx,score\n", "\xe2\x80\x83",
+            "0", "-1", "7",  "12", "polish", "--depth", "99", "2147483648",    "/dev/zero"};
+        for (Bytes changes = changes_; !changes.empty();) {
+            const std::size_t at = text.size() * static_cast<std::size_t>(changes.take()) / 256;
+            const auto length = static_cast<std::size_t>(changes.below(64));
+            const char *const word = changes.oneOf(words);
+            if (length >= 16)
+                text.insert(at, text.substr(at, length));
+            else
+                text.replace(at, length, word);
+        }
+        return text;
+    }
+
+private:
+    Bytes changes_;
+};
+
+void want(bool good, const char *what, const std::string &where) {
+    if (!good)
+        reportFault(what, where);
 }
 
 std::string readAndWritten(const std::string &text, int size) {
     QString unicode = QString::fromStdString(text);
-    return readAndWritten(QTextStream(&unicode), size);
+    QTextStream stream(&unicode);
+    board b(size);
+    b.fromStream(stream);
+    want(b.whiteToMove == (b.plyCount % 2 == 0), "the wrong side is to move", text);
+    return lineOf(b);
 }
 
 void positionsReadBack(Bytes &bytes) {
@@ -34,40 +68,24 @@ void positionsReadBack(Bytes &bytes) {
     const int size = situation.position.size;
     const std::string once = readAndWritten(text, size);
     wantSame(once, readAndWritten(once, size), text);
-    if (once.ends_with("white") != (once[once.find(' ', 3) - 1] % 2 == 0))
-        reportFault("the side to move does not follow from the ply counter", text);
-
-    // Letters of one byte each read the same from bytes as from a string.
-    if (std::all_of(text.begin(), text.end(), [](char c) { return c > 0; }))
-        wantSame(once, readAndWritten(QTextStream(QByteArray::fromStdString(text)), size), text);
 }
 
-std::string dumpOf(const hashTable &table) {
+QString dumpOf(const hashTable &table) {
     QString text;
     QTextStream stream(&text);
     table.toStream(stream);
     stream.flush();
-    return text.toStdString();
+    return text;
 }
 
-void reload(hashTable &table, const std::string &text, int n) {
+// The dump of what was read.
+std::string reloaded(const std::string &text, int capacity, int size) {
+    hashTable table(capacity);
     QString unicode = QString::fromStdString(text);
     QTextStream stream(&unicode);
-    table.fromStream(stream, n);
+    table.fromStream(stream, size);
     wantSame("", tableFault(table), text);
-    for (int i = 0; i < table.size; ++i) {
-        if (!table.Tempty[i] && table.Tboards[i].size != n)
-            reportFault("a reloaded position has another size", text);
-    }
-}
-
-// Searches some nodes of a node below the root: there the table is not emptied first.
-void searchNode(EngineRig &rig) {
-    rig.host.onEvents = [&rig] { AbstractEngine::breakThinking = rig.host.eventRounds > 2; };
-    AbstractEngine::absHorizon = 2;
-    rig.engine->depth = 20;
-    const Score none(Score::none, -1);
-    rig.engine->getBestMove(1, rig.score, none, none, rig.line, false);
+    return dumpOf(table).toStdString();
 }
 
 void tablesReload(Bytes &bytes) {
@@ -75,23 +93,53 @@ void tablesReload(Bytes &bytes) {
     const int capacity = bytes.oneOf(capacities);
     const Edits edits(bytes);
     const Situation situation = readSituation(bytes);
-    const int size = situation.position.size;
     EngineRig searched(situation.rules, situation.position, 101);
-    searchNode(searched);
-    const std::string text = edits.of(dumpOf(searched.table));
+    searched.statistic.setReqDepth(1);
+    searched.search();
+    const std::string text = edits.of(dumpOf(searched.table).toStdString());
+    const std::string once = reloaded(text, capacity, situation.position.size);
+    wantSame(once, reloaded(once, capacity, situation.position.size), text);
+}
 
-    EngineRig rig(situation.rules, situation.position, capacity);
-    reload(rig.table, text, size);
-    hashTable again(capacity);
-    reload(again, dumpOf(rig.table), size);
-    wantSame(dumpOf(rig.table), dumpOf(again), text);
-    searchNode(rig);
-    wantSame("", tableFault(rig.table), text);
+// What the bit sets can hold is a good position.
+void wantPlayable(const board &b, const std::string &where) {
+    bool good = false;
+    dispatchBits(defaultRules, b.size,
+                 [&](auto form) { good = BitPosition<form.squares>::representable(b); });
+    want(good, "a bad position was accepted", where);
+    want(b.plyCount >= 0, "a negative ply counter was accepted", where);
+}
+
+void benchArguments(Bytes &bytes) {
+    const std::string line = Edits(bytes).of("--depth 3 --time 2 --only x --positions file -m");
+    QCommandLineParser parser;
+    describeBench(parser);
+    BenchOptions options;
+    if (!parser.parse(QStringList("program") + QString::fromStdString(line).split(' '))) {
+        want(!parser.errorText().isEmpty(), "refused without a message", line);
+        return;
+    }
+    if (!readBenchOptions(parser, options).isEmpty())
+        return;
+    want(options.depth >= 0 && options.depth <= mostDepth, "the depth", line);
+    want(options.seconds >= 0, "the time", line);
+    QString error;
+    want(!tasksText(options, error).isEmpty() || !error.isEmpty(), "no tasks, no message", line);
+}
+
+void benchTasks(Bytes &bytes) {
+    const Edits edits(bytes);
+    const std::string text = edits.of(describe(readSituation(bytes)));
+    QString error;
+    for (const BenchTask &task : readTasks(QString::fromStdString(text), error)) {
+        wantPlayable(task.position, text);
+        want(task.depth >= 1 && task.depth <= mostDepth, "a task's depth", text);
+    }
 }
 
 } // namespace
 
 std::span<const Property> properties() {
-    static constexpr Property all[] = {positionsReadBack, tablesReload};
+    static constexpr Property all[] = {positionsReadBack, tablesReload, benchArguments, benchTasks};
     return all;
 }

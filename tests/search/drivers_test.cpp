@@ -27,13 +27,13 @@ TEST(Drivers, NothingIsDeepenedWhenAllIsClear) {
         const char *name, *picture;
         bool giveAway;
         const char *move;
-        int score, depth, timedDepth, nodes;
-    } cases[] = {{"won", manAlone, false, "(2,2)-(3,3)", 999999, 1, 3, 4},
-                 {"lost by giving away", manAlone, true, "(2,2)-(3,3)", -999999, 1, 3, 4},
-                 {"one move", "w ...... ..b... ...... w..... ...... ......", false, "(0,2)-(1,3)",
-                  -999998, 1, 2, 4},
-                 {"no move", "w ...... ..b... .b.... w..... ...... ......", false, "none", -1000000,
-                  0, 0, 1}};
+        int score, depth, timedDepth;
+    } cases[] = {
+        {"won", manAlone, false, "(2,2)-(3,3)", 999999, 1, 3},
+        {"lost by giving away", manAlone, true, "(2,2)-(3,3)", -999999, 1, 3},
+        {"one move", "w ...... ..b... ...... w..... ...... ......", false, "(0,2)-(1,3)", -999998,
+         1, 2},
+        {"no move", "w ...... ..b... .b.... w..... ...... ......", false, "none", -1000000, 0, 0}};
     for (const auto &c : cases) {
         for (const int mode : allModes) {
             EngineRig rig(RuleSet::American, c.picture);
@@ -45,8 +45,6 @@ TEST(Drivers, NothingIsDeepenedWhenAllIsClear) {
             EXPECT_EQ(rig.score.value, c.score) << c.name;
             EXPECT_EQ(rig.score.depth, mode == byDepth ? c.depth : c.timedDepth) << c.name;
             EXPECT_EQ(rig.position.hashScore, rig.score.value) << c.name;
-            EXPECT_EQ(rig.position.hashHorizon, rig.score.depth) << c.name;
-            EXPECT_EQ(rig.statistic.nodes, c.nodes) << c.name;
             EXPECT_EQ(rig.host.beeps, 1) << c.name;
         }
     }
@@ -72,8 +70,6 @@ TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
         request(rig, mode);
         EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
         EXPECT_EQ(rig.score.value, Score::lost);
-        EXPECT_EQ(rig.score.depth, -1);
-        EXPECT_TRUE(AbstractEngine::breakThinking);
         EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
     }
 }
@@ -92,7 +88,6 @@ TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
         };
         EXPECT_EQ(broken.search(), move);
         EXPECT_EQ(broken.score.value, whole.score.value);
-        EXPECT_GT(broken.statistic.nodes, whole.statistic.nodes);
         EXPECT_FALSE(AbstractEngine::breakThinking);
     }
 }
@@ -106,7 +101,6 @@ TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
     rig.search();
     const int counted = rig.statistic.nodes - 1; // the driver's own listing is no node
     EXPECT_EQ(rig.host.eventRounds, (counted - 1) / 201 + 1);
-    EXPECT_EQ(AbstractEngine::eventLoop, 200 - (counted - 1) % 201);
 }
 
 // Black's kings can take in so many orders that one listing lasts for a second; its man comes last.

@@ -56,17 +56,6 @@ TEST(MoveOrdering, Reductions) {
     }
 }
 
-// The second bound is the other side's.
-TEST(MoveOrdering, Windows) {
-    constexpr struct {
-        int value;
-        bool outside;
-    } cases[] = {{4, true}, {5, false}, {6, true}};
-    for (const auto &[value, outside] : cases)
-        EXPECT_EQ(AbstractEngine::outsideRange(value, Score(4, 0), Score(-6, 0)), outside) << value;
-    EXPECT_FALSE(AbstractEngine::outsideRange(0, Score(none, 0), Score(none, 0)));
-}
-
 TEST(MoveOrdering, Favourites) {
     const struct {
         Scores scores;

@@ -115,13 +115,6 @@ TEST(Iterations, ADecidedMoveKeepsItsValueAndIsNotSearchedAgain) {
     EXPECT_EQ(tree.statistic.nodes, 9 + 1 + 4) << "the root, a and its three replies";
 }
 
-TEST(Iterations, TheBestMoveOfTheLastOneComesFirst) {
-    DrawnTree tree("((0 0 0) (90 90 90) (-90 -90 -90))");
-    tree.searchNode(2);
-    tree.searchNode(2);
-    EXPECT_EQ(tree.engine->moveList.last().to().y, 1) << "move b";
-}
-
 TEST(Iterations, ThreeLevelsAreKept) {
     DrawnTree tree("(((((5)))))");
     tree.searchNode(2);
@@ -157,15 +150,6 @@ TEST(Transpositions, APositionReachedAgainIsNotSearchedAgain) {
         EXPECT_EQ(tree.statistic.hashHits, 2) << ply;
         EXPECT_EQ(tree.statistic.nodes, 14) << ply;
     }
-}
-
-TEST(Break, NodesBelowTheRootAnswerNothing) {
-    DrawnTree tree("((1) (2))");
-    AbstractEngine::breakThinking = true;
-    EXPECT_EQ(tree.searchNode(2), "none");
-    EXPECT_EQ(tree.score.value, none);
-    EXPECT_EQ(tree.move('a').score, none);
-    EXPECT_EQ(tree.statistic.nodes, 1);
 }
 
 } // namespace

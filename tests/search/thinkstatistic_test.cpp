@@ -64,7 +64,6 @@ TEST(ThinkStatistic, TheEndOfAMove) {
         t.host.now += 50; // an iteration that is not completed costs nothing
         t.stop(c.moves);
         EXPECT_EQ(t.timeCredit, c.creditAfter) << c.usedMs << " of " << c.seconds << " s";
-        EXPECT_EQ(t.elapsedMs, c.usedMs + 50);
     }
 }
 
