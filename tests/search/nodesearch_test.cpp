@@ -104,6 +104,12 @@ TEST(CutOffs, OnAMoveTooGood) {
     }
 }
 
+TEST(CutOffs, MovesNotSearchedAnyMoreHaveNoScore) {
+    DrawnTree tree("(0 -50 0)");
+    tree.searchNode(2, 1, none, -50);
+    EXPECT_EQ(tree.move('a').score, none);
+}
+
 TEST(Iterations, ADecidedMoveKeepsItsValueAndIsNotSearchedAgain) {
     DrawnTree tree("(-40 (# 0 0))");
     EXPECT_EQ(tree.searchNode(2), "a");
