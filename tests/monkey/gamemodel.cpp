@@ -1,5 +1,6 @@
 #include "tests/monkey/gamemodel.h"
 
+#include "forms/fsettings.h"
 #include "rules/ruleset.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
@@ -15,7 +16,6 @@
 namespace {
 
 constexpr int sizes[] = {6, 8, 10, 12};
-enum PlayersItem { humanComputer, humanHuman, computerComputer };
 
 // What the rules are asked: an engine and a board that have nothing to do with those of the window,
 // which may be about to change its size.

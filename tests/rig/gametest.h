@@ -33,7 +33,7 @@ inline constexpr const char *startOfTen =
 inline constexpr int international = 0, american = 1, polish = 2;
 inline constexpr int sixSquares = 0, eightSquares = 1, tenSquares = 2, twelveSquares = 3;
 inline constexpr int easy1 = 0, easy2 = 1, fiveSeconds = 3, infinite = 7;
-inline constexpr int humanComputer = 0, humans = 1, computers = 2;
+inline constexpr int humans = humanHuman, computers = computerComputer;
 
 // What to change in the settings dialog; the rest stays as it is.
 struct Picks {
