@@ -4,89 +4,65 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <map>
+#include <string>
+#include <vector>
+
 namespace {
 
-// Expected lists in order; an empty one: the side to move has lost. The Polish list is the
-// international one where it is not given. `after`: what the first international move leaves.
-const struct {
-    const char *name, *picture, *international, *american;
-    const char *polish = nullptr, *after = nullptr;
-} positions[] = {
-    {"men capture backwards, American ones do not", "w ...... ...... ...... ..w... .b.... ......",
-     "(2,2)x(0,0)", "(2,2)-(1,3) (2,2)-(3,3)"},
-    {"the longest capture, or a free choice",
-     "w ........ ........ ........ ....b... ........ ..b...B. .w...w.. ........",
-     "(1,1)x(3,3)x(5,5)", "(1,1)x(3,3)x(5,5) (5,1)x(7,3)", "(1,1)x(3,3)x(5,5) (5,1)x(7,3)"},
-    {"equally long captures, by direction",
-     "b ........ ........ ...w.W.. ....b... ...w.w.. ........ ........ ........",
-     "(4,4)x(6,6) (4,4)x(6,2) (4,4)x(2,2) (4,4)x(2,6)", "(4,4)x(6,2) (4,4)x(2,2)"},
-    {"flying and short kings", "w ...... ...... ...... ..W... ...... ......",
-     "(2,2)-(3,3) (2,2)-(4,4) (2,2)-(5,5) (2,2)-(3,1) (2,2)-(4,0) (2,2)-(1,1) (2,2)-(0,0) "
-     "(2,2)-(1,3) (2,2)-(0,4)",
-     "(2,2)-(3,3) (2,2)-(3,1) (2,2)-(1,1) (2,2)-(1,3)"},
-    {"a flying king stops anywhere behind a distant piece",
-     "w ........ ........ ........ ....b... ........ ........ .W...... ........",
-     "(1,1)x(5,5) (1,1)x(6,6) (1,1)x(7,7)", "(1,1)-(2,2) (1,1)-(2,0) (1,1)-(0,0) (1,1)-(0,2)"},
-    {"but only where the capture goes on, if it does somewhere",
-     "w ........ ........ ........ ......b. ...b.... ........ ........ W.......",
-     "(0,0)x(5,5)x(7,3)", "(0,0)-(1,1)"},
-    {"no jump over edge pieces, pairs or own pieces",
-     "w ........ b.....b. .....b.. ........ ...W.... ........ .w...... ......b.",
-     "(1,1)-(0,2) (1,1)-(2,2) (3,3)-(4,4) (3,3)-(4,2) (3,3)-(5,1) (3,3)-(2,2) (3,3)-(2,4) "
-     "(3,3)-(1,5)",
-     "(1,1)-(0,2) (1,1)-(2,2) (3,3)-(4,4) (3,3)-(4,2) (3,3)-(2,2) (3,3)-(2,4)"},
-    {"a jumped piece blocks the way to (1,3)",
-     "w ........ ........ ........ ........ .b...b.. ..b..... .....b.. W.......",
-     "(0,0)x(4,4)x(6,2)x(4,0)", "(0,0)-(1,1)", "(0,0)x(3,3)x(6,0) (0,0)x(4,4)x(6,2)x(4,0)"},
-    {"around in a circle, no piece twice",
-     "w ........ ........ ........ ..b.b... ........ ..b.b... ...w.... ........",
-     "(3,1)x(5,3)x(3,5)x(1,3)x(3,1) (3,1)x(1,3)x(3,5)x(5,3)x(3,1)",
-     "(3,1)x(5,3)x(3,5) (3,1)x(1,3)x(3,5)", nullptr,
-     "b ........ ........ ........ ........ ........ ........ ...w.... ........"},
-    {"a crown where the move ends", "w .b.... ..w... ...... ...... ...... ......", "(2,4)-(3,5)",
-     "(2,4)-(3,5)", nullptr, "b .b.W.. ...... ...... ...... ...... ......"},
-    {"over the promotion row and on", "w ...... ..b.b. .w.... ...... ...... ......",
-     "(1,3)x(3,5)x(5,3)", "(1,3)x(3,5)", nullptr, "b ...... ...... .....w ...... ...... ......"},
-    {"the same for black", "b ...... ...... ...... ....b. .w.w.. ......", "(4,2)x(2,0)x(0,2)",
-     "(4,2)x(2,0)"},
-    {"blocked but for a capture backwards", "w ...... ..b... .b.... w..... .b.... ......",
-     "(0,2)x(2,0)", ""},
-    {"blocked, black", "b ...... ...... .....b ....w. ...w.. ......", "", ""},
-    {"no piece left", "w .b.... ...... ...... ...... ...... ......", "", ""},
-};
+// A position of positions.txt: its drawings and lists by what stands before the colon.
+using Position = std::map<std::string, std::string>;
+
+std::vector<Position> readPositions() {
+    std::ifstream file(TEST_DATA "/positions.txt");
+    EXPECT_TRUE(file.is_open());
+    std::vector<Position> positions;
+    std::string line, key;
+    while (std::getline(file, line)) {
+        const std::size_t colon = line.find(": ");
+        if (line.empty() || line.starts_with('#'))
+            continue;
+        if (line.starts_with(' ')) {
+            positions.back()[key] += line;
+            continue;
+        }
+        key = line.substr(0, line.find(':'));
+        if (key == "position")
+            positions.emplace_back();
+        positions.back()[key] = colon == std::string::npos ? "" : line.substr(colon + 2);
+        if (key == "position")
+            key = "drawing";
+    }
+    return positions;
+}
 
 TEST(Moves, RulePositions) {
-    for (const auto &p : positions) {
-        const char *const polish = p.polish != nullptr ? p.polish : p.international;
-        const struct {
-            RuleSet rules;
-            const char *engine;
-            std::string want;
-        } expected[] = {{RuleSet::International, "IntEngine", p.international},
-                        {RuleSet::American, "AmEngine", p.american},
-                        {RuleSet::Polish, "PolEngine", polish}};
-        for (const auto &[rules, engine, want] : expected) {
-            EngineRig rig(rules, p.picture);
-            EXPECT_STREQ(rig.engine->className(), engine);
-            EXPECT_EQ(rig.engine->FillMoveList(), want.empty()) << p.name;
-            EXPECT_EQ(moveText(rig.engine->moveList), want) << p.name << ", " << engine;
-            EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos) << p.name;
+    for (Position &p : readPositions()) {
+        p.try_emplace("polish", p["international"]);
+        for (const RuleRow &rules : ruleRows) {
+            SCOPED_TRACE(p["position"] + ", " + rules.word);
+            const std::string want = p[rules.word];
+            EngineRig rig(rules.id, p["drawing"]);
+            EXPECT_EQ(rig.engine->FillMoveList(), want == "-");
+            EXPECT_EQ(moveText(rig.engine->moveList), want == "-" ? "" : want);
+            EXPECT_EQ(rig.engine->isCapture(), want.find('x') != std::string::npos);
             EXPECT_EQ(rig.engine->getLegalMove(rig.engine->moveList.count()), nullptr);
         }
     }
 }
 
 TEST(Moves, WhatAMoveLeaves) {
-    for (const auto &p : positions) {
-        if (p.after == nullptr)
+    for (Position &p : readPositions()) {
+        if (!p.contains("after"))
             continue;
-        EngineRig rig(RuleSet::International, p.picture);
+        EngineRig rig(RuleSet::International, p["drawing"]);
         rig.position.hashScore = 7;
         rig.engine->FillMoveList();
         rig.engine->makeMove(&rig.position, rig.engine->getLegalMove(0));
-        EXPECT_EQ(picture(rig.position), picture(drawn(p.after))) << p.name;
-        EXPECT_EQ(rig.position.plyCount, 1) << p.name;
-        EXPECT_EQ(rig.position.hashScore, 7) << p.name;
+        EXPECT_EQ(picture(rig.position), picture(drawn(p["after"]))) << p["position"];
+        EXPECT_EQ(rig.position.plyCount, 1) << p["position"];
+        EXPECT_EQ(rig.position.hashScore, 7) << p["position"];
     }
 }
 
