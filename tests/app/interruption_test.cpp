@@ -69,12 +69,3 @@ TEST_F(InterruptionTest, ReopenedDuringItsLastSearchItSearchesAgain) {
     land();
     EXPECT_EQ(status(), playersTurn);
 }
-
-TEST_F(InterruptionTest, ClosingInAWarningAboutSpritesStartsNoSearch) {
-    game.pieces[0][0]->hide();
-    host.onBox = [this] { game.close(); };
-    game.whiteComputer = 1;
-    game.DoPlayerMove();
-    EXPECT_EQ(boxes(), "warning: Draughts::testPieces: visible==captured [Ok]\n");
-    EXPECT_EQ(host.eventRounds, 0);
-}
