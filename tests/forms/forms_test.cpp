@@ -1,4 +1,5 @@
-// The forms by themselves: what the player reads on them and what the game relies on.
+// The forms by themselves: how they look, whether their texts have room, what a player's choice
+// does.
 
 #include "forms/fabout.h"
 #include "forms/formsettings.h"
@@ -11,17 +12,22 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFontInfo>
 #include <QLabel>
-#include <QLayout>
 #include <QPushButton>
+#include <QStyleOption>
 #include <QTest>
+#include <QTranslator>
+
+#include <utility>
 
 namespace {
 
 // The form, then a line for every widget: its place unless a layout has it, its largest size if it
 // has one, its font's points unless they are the application's, its weight, text and tool tip, and
-// "pen" where it takes no focus though it can be worked. Of a list the text is all items, the
-// current one in brackets; prose is left out.
+// "pen" where it takes no focus though it can be worked. Of a list the text is all items;
+// prose is left out.
 const char *const mainForm = R"(MainForm 240x320 min 240x310 max 240x320 'tavlora v1.0.3'
 btnSettings at 185,235 50x22 max 50x32767 8pt 'Settings'
 Layout8 at 0,235 48x24
@@ -36,13 +42,13 @@ lblThinking at 115,260 115x22 max 150x32767 bold '**** THINKING ****')";
 
 const char *const settingsForm = R"(fsettings 209x170 min 0x0 max 240x300 'settings'
 TextLabel1_2 9pt 'Rules'
-cmbRules 9pt '[International]|American|Polish Traditional' tip 'game rules' pen
+cmbRules 9pt 'International|American|Polish Traditional' tip 'game rules' pen
 TextLabel1_2_2 9pt 'Board Size'
-cmbSize 9pt '6 for fun|8 checkers,brazylian|[10 international]|12 canadian' tip 'board size' pen
+cmbSize 9pt '6 for fun|8 checkers,brazylian|10 international|12 canadian' tip 'board size' pen
 TextLabel1 9pt 'level'
-cmbLevel 9pt 'Easy 1|Easy 2|2 sec/move|[5 sec/move]|10 sec/move|20 sec/move|1 min/move|infinite (until break)' tip 'thinking level' pen
+cmbLevel 9pt 'Easy 1|Easy 2|2 sec/move|5 sec/move|10 sec/move|20 sec/move|1 min/move|infinite (until break)' tip 'thinking level' pen
 TextLabelP 9pt 'Players'
-cmbPlayers '[Human-Computer]|Human-Human|Computer-Computer'
+cmbPlayers 'Human-Computer|Human-Human|Computer-Computer'
 chGiveAway 'Give Away' pen)";
 
 const char *const figuresForm = R"(formStat 169x233 min 0x0 max any 'statistic'
@@ -64,161 +70,166 @@ TextLabel1 bold 'Tavlora v 1.0.3'
 PixmapLabel1
 TextLabel6 10pt)";
 
+QStringList textsOf(const QWidget &widget) {
+    QStringList texts = {widget.property("text").toString()};
+    if (const auto *combo = qobject_cast<const QComboBox *>(&widget)) {
+        for (int i = 0; i < combo->count(); ++i)
+            texts << combo->itemText(i);
+    }
+    texts.removeAll(QString());
+    return texts;
+}
+
 QString inWords(QSize size) {
     return size.width() == QWIDGETSIZE_MAX
                ? QStringLiteral("any")
                : QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
-QString textOf(const QWidget &widget) {
-    const auto *label = qobject_cast<const QLabel *>(&widget);
-    const auto *combo = qobject_cast<const QComboBox *>(&widget);
-    if (label != nullptr && label->wordWrap())
-        return {};
-    if (combo == nullptr)
-        return widget.property("text").toString();
-    QStringList items;
-    for (int i = 0; i < combo->count(); ++i)
-        items << (i == combo->currentIndex() ? '[' + combo->itemText(i) + ']' : combo->itemText(i));
-    return items.join('|');
-}
-
 QString inWords(const QWidget &widget) {
-    QStringList words = {widget.objectName()};
+    QString words = widget.objectName();
     if (widget.parentWidget()->layout() == nullptr)
-        words << QStringLiteral("at %1,%2").arg(widget.x()).arg(widget.y())
-              << inWords(widget.size());
+        words +=
+            QStringLiteral(" at %1,%2 ").arg(widget.x()).arg(widget.y()) + inWords(widget.size());
     if (inWords(widget.maximumSize()) != "any")
-        words << "max" << inWords(widget.maximumSize());
+        words += " max " + inWords(widget.maximumSize());
     if (widget.font().pointSize() != QApplication::font().pointSize())
-        words << QStringLiteral("%1pt").arg(widget.font().pointSize());
+        words += QStringLiteral(" %1pt").arg(widget.font().pointSize());
     if (widget.font().bold())
-        words << "bold";
-    if (!textOf(widget).isEmpty())
-        words << '\'' + textOf(widget) + '\'';
+        words += " bold";
+    if (!textsOf(widget).isEmpty() && !widget.property("wordWrap").toBool())
+        words += " '" + textsOf(widget).join('|') + '\'';
     if (!widget.toolTip().isEmpty())
-        words << "tip" << '\'' + widget.toolTip() + '\'';
+        words += " tip '" + widget.toolTip() + '\'';
     const bool canBeWorked = widget.inherits("QAbstractButton") || widget.inherits("QComboBox");
     if (canBeWorked && widget.focusPolicy() == Qt::NoFocus)
-        words << "pen";
-    return words.join(' ');
+        words += " pen";
+    return words;
 }
 
 std::string formInWords(const QWidget &form) {
-    QStringList lines = {form.objectName() + ' ' + inWords(form.size()) + " min " +
-                         inWords(form.minimumSize()) + " max " + inWords(form.maximumSize()) +
-                         " '" + form.windowTitle() + '\''};
+    QString words = form.objectName() + ' ' + inWords(form.size()) + " min " +
+                    inWords(form.minimumSize()) + " max " + inWords(form.maximumSize()) + " '" +
+                    form.windowTitle() + '\'';
     for (const QWidget *widget : form.findChildren<QWidget *>()) {
         const bool isPartOfAList = widget->parentWidget()->inherits("QComboBox") ||
                                    widget->window()->inherits("QComboBoxPrivateContainer");
         if (!isPartOfAList)
-            lines << inWords(*widget);
+            words += '\n' + inWords(*widget);
     }
-    return lines.join('\n').toStdString();
+    return words.toStdString();
 }
 
-// A font of the application's that is none of the forms'.
-class LargeFont {
-public:
-    LargeFont() { setPoints(14); }
-    ~LargeFont() { QApplication::setFont(usual_); }
-    void setPoints(int points) const { QApplication::setFont(QFont(usual_.family(), points)); }
+// In a font of the application's that is none of theirs.
+TEST(Forms, AreBuiltAsToldAndStaySoInAnotherFont) {
+    const QFont usual = QApplication::font();
+    QApplication::setFont(QFont(usual.family(), 14));
+    const MainForm game;
+    const formsettings settings;
+    const formStat figures;
+    const fabout about;
+    const std::pair<const QWidget *, const char *> forms[] = {
+        {&game, mainForm}, {&settings, settingsForm}, {&figures, figuresForm}, {&about, aboutForm}};
+    for (const auto &[form, told] : forms) {
+        EXPECT_EQ(formInWords(*form), told);
+        for (QWidget *widget : form->findChildren<QWidget *>())
+            widget->setFont(QFont()); // forgets what is its own
+    }
+    QApplication::setFont(QFont(usual.family(), 20));
+    QApplication::processEvents(); // the change is told then
+    for (const auto &[form, told] : forms)
+        EXPECT_EQ(formInWords(*form), told);
+    QApplication::setFont(usual);
+}
 
-private:
-    const QFont usual_ = QApplication::font();
-};
-
-struct Forms : testing::Test {
-    LargeFont font;
-    MainForm game;
+TEST(Forms, SettingsFollowThePlayerAndNotTheProgram) {
     formsettings settings;
-    formStat figures;
-    fabout about;
-
-    void expectAllAsTold() const {
-        EXPECT_EQ(formInWords(game), mainForm);
-        EXPECT_EQ(formInWords(settings), settingsForm);
-        EXPECT_EQ(formInWords(figures), figuresForm);
-        EXPECT_EQ(formInWords(about), aboutForm);
+    EXPECT_EQ(settings.cmbRules->currentText(), "International");
+    EXPECT_EQ(settings.cmbSize->currentText(), "10 international");
+    EXPECT_EQ(settings.cmbLevel->currentText(), "5 sec/move");
+    settings.show();
+    settings.cmbRules->setCurrentIndex(2);
+    EXPECT_EQ(settings.rulesIndex, 0) << "not the player's choice";
+    for (QComboBox *combo : {settings.cmbRules, settings.cmbSize, settings.cmbLevel}) {
+        combo->setCurrentIndex(0);
+        combo->showPopup();
+        QTest::keyClick(combo->view(), Qt::Key_Down);
+        QTest::keyClick(combo->view(), Qt::Key_Return);
     }
-};
-
-TEST_F(Forms, AreBuiltAsTold) {
-    expectAllAsTold();
-    EXPECT_EQ(about.TextLabel1->font().family(), "adobe-helvetica");
-    EXPECT_EQ(fabout(nullptr, "credits").objectName(), "credits");
+    EXPECT_EQ(settings.rulesIndex, 1);
+    EXPECT_EQ(settings.sizeIndex, 1);
+    EXPECT_EQ(settings.levelIndex, 1);
+    settings.chGiveAway->click();
+    settings.setGiveAway(Qt::PartiallyChecked);
+    EXPECT_TRUE(settings.giveAway) << "the undecided state changes nothing";
+    settings.setDefaults();
+    EXPECT_EQ(settings.rulesIndex, 0);
+    EXPECT_EQ(settings.sizeIndex, 2);
+    EXPECT_EQ(settings.levelIndex, 3);
+    EXPECT_FALSE(settings.giveAway);
 }
 
-TEST_F(Forms, TakeTheirFontsAgainWhenTheApplicationsFontChanges) {
-    for (const QWidget *form : {static_cast<QWidget *>(&game), static_cast<QWidget *>(&settings),
-                                static_cast<QWidget *>(&figures), static_cast<QWidget *>(&about)}) {
-        for (QWidget *widget : form->findChildren<QWidget *>()) {
-            QFont spoilt; // in what is set, and so in that only
-            if (widget->font().pointSize() != QApplication::font().pointSize())
-                spoilt.setPointSize(30);
-            if (widget->font().bold())
-                spoilt.setBold(false);
-            widget->setFont(spoilt);
+// Where the style draws the widget's text.
+QRect room(const QWidget &widget) {
+    QStyleOptionComboBox combo;
+    QStyleOptionButton button;
+    combo.initFrom(&widget);
+    button.initFrom(&widget);
+    const QStyle &style = *widget.style();
+    if (widget.inherits("QPushButton"))
+        return style.subElementRect(QStyle::SE_PushButtonContents, &button, &widget);
+    if (widget.inherits("QCheckBox"))
+        return style.subElementRect(QStyle::SE_CheckBoxContents, &button, &widget);
+    if (widget.inherits("QComboBox"))
+        return style.subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxEditField,
+                                    &widget);
+    return widget.contentsRect();
+}
+
+// Not under a neighbour, either. A widget that is hidden takes turns with one that is not.
+void expectToFit(const QWidget &widget, const QString &text) {
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    int flags = Qt::AlignCenter;
+    if (label != nullptr)
+        flags = int(label->alignment()) | (label->wordWrap() ? int(Qt::TextWordWrap) : 0);
+    const QRect drawn = widget.fontMetrics().boundingRect(room(widget), flags, text);
+    EXPECT_TRUE(room(widget).contains(drawn)) << text.toStdString();
+    for (const QPoint corner : {drawn.topLeft(), drawn.bottomRight()}) {
+        const QWidget *onTop = widget.window()->childAt(widget.mapTo(widget.window(), corner));
+        EXPECT_EQ(widget.isHidden() ? &widget : onTop, &widget) << text.toStdString();
+    }
+}
+
+void expectAllToFit() {
+    MainForm game;
+    game.btnBreak->hide();
+    formsettings settings(nullptr, nullptr, true);
+    formStat figures;
+    fabout about(nullptr, nullptr, true);
+    for (QWidget *form : std::initializer_list<QWidget *>{&game, &settings, &figures, &about}) {
+        form->show();
+        QApplication::processEvents();
+        for (const QWidget *widget : form->findChildren<QWidget *>()) {
+            for (const QString &text : textsOf(*widget))
+                expectToFit(*widget, text);
         }
     }
-    font.setPoints(20);
-    QApplication::processEvents(); // the change is told then
-    expectAllAsTold();
+    for (const char *state : {"*** THINKING ***", "Your Move", "You Must Capture", "Game Over"})
+        expectToFit(*game.lblThinking, QCoreApplication::translate("Draughts", state));
+    expectToFit(*game.labelScore, "30/30");
 }
 
-TEST_F(Forms, ThePictureStaysInTheMiddle) {
-    for (const int height : {224, 260}) {
-        about.resize(220, height);
-        about.show();
-        EXPECT_EQ(about.PixmapLabel1->size(), QSize(80, 81));
-        EXPECT_EQ(about.PixmapLabel1->x(), (220 - 80) / 2);
+// At 72 dpi in the font that comes with the program.
+TEST(Forms, HaveRoomForTheirTextsInEveryLanguage) {
+    ASSERT_EQ(QFontInfo(QApplication::font()).family(), "DejaVu Sans");
+    expectAllToFit();
+    for (const QString &catalogue : QDir(":/i18n").entryList()) {
+        SCOPED_TRACE(catalogue.toStdString());
+        QTranslator language;
+        ASSERT_TRUE(language.load(":/i18n/" + catalogue));
+        QApplication::installTranslator(&language);
+        expectAllToFit();
     }
-}
-
-// The toolkit reports a press again and again while a key is held.
-TEST_F(Forms, AHeldEscapePressesBreakOnce) {
-    game.show();
-    game.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&game));
-    int presses = 0;
-    QObject::connect(game.btnBreak, &QPushButton::clicked, [&] { ++presses; });
-    for (const bool repeated : {false, true, true})
-        QTest::simulateEvent(&game, true, Qt::Key_Escape, {}, {}, repeated);
-    EXPECT_EQ(presses, 1);
-    game.btnBreak->hide();
-    QTest::keyClick(&game, Qt::Key_Escape);
-    EXPECT_EQ(presses, 1);
-}
-
-TEST_F(Forms, SettingsFollowThePlayerAndNotTheProgram) {
-    const struct {
-        QComboBox *combo;
-        const int &field;
-        int byDefault;
-    } choices[] = {{settings.cmbRules, settings.rulesIndex, 0},
-                   {settings.cmbSize, settings.sizeIndex, 2},
-                   {settings.cmbLevel, settings.levelIndex, 3}};
-    settings.show();
-    for (const auto &choice : choices) {
-        choice.combo->setCurrentIndex(0);
-        EXPECT_EQ(choice.field, choice.byDefault) << choice.combo->objectName().toStdString();
-        choice.combo->showPopup();
-        QTest::keyClick(choice.combo->view(), Qt::Key_Down);
-        QTest::keyClick(choice.combo->view(), Qt::Key_Return);
-        EXPECT_EQ(choice.field, 1) << choice.combo->objectName().toStdString();
-    }
-    for (const bool given : {true, false}) {
-        QTest::mouseClick(settings.chGiveAway, Qt::LeftButton, {}, QPoint(6, 6));
-        settings.setGiveAway(Qt::PartiallyChecked);
-        EXPECT_EQ(settings.giveAway, given) << "the undecided state changes nothing";
-    }
-    settings.cmbPlayers->setCurrentIndex(2);
-    settings.chGiveAway->setChecked(true);
-    settings.setDefaults();
-    EXPECT_EQ(settings.cmbPlayers->currentIndex(), 0);
-    EXPECT_FALSE(settings.giveAway);
-    for (const auto &choice : choices)
-        EXPECT_EQ(choice.field, choice.byDefault) << choice.combo->objectName().toStdString();
 }
 
 } // namespace
