@@ -18,20 +18,12 @@ TEST(BoardMetrics, BoardIsTheLargestWholeNumberOfSquares) {
     }
 }
 
-TEST(BoardMetrics, RowZeroIsAtTheBottomUnlessFlipped) {
-    boardMetrics metrics(10, 230, 200); // squares of 23 x 20 pixels
-    EXPECT_EQ(metrics.BxToScr(9), 207);
-    EXPECT_EQ(metrics.ByToScr(0), 180);
-    EXPECT_FALSE(metrics.flipBoard(true));
-    EXPECT_EQ(metrics.BxToScr(9), 0);
-    EXPECT_EQ(metrics.ByToScr(0), 0);
-    EXPECT_TRUE(metrics.flipBoard(false));
-}
-
 TEST(BoardMetrics, EveryPixelOfASquareLeadsBackToIt) {
     boardMetrics metrics(10, 230, 230);
-    for (const bool flipped : {false, true}) {
-        metrics.flipBoard(flipped);
+    for (const bool flipped : {true, false}) {
+        EXPECT_NE(metrics.flipBoard(flipped), flipped) << "what it was before";
+        EXPECT_EQ(metrics.BxToScr(9), flipped ? 0 : 207);
+        EXPECT_EQ(metrics.ByToScr(0), flipped ? 0 : 207);
         for (int pixel = 0; pixel < 230; ++pixel) {
             const int square = pixel / 23 * 23;
             EXPECT_EQ(metrics.BxToScr(metrics.ScrToBx(pixel)), square) << pixel;
