@@ -1,15 +1,12 @@
 #include "platform/qcanvas.h"
 
 #include "platform/qcanvasitem.h"
-#include "platform/qcanvasview.h"
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QTest>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <utility>
 
@@ -20,16 +17,13 @@ struct Walker : QCanvasRectangle {
     Walker(QCanvas *on, std::string letter, std::string &log)
         : QCanvasRectangle(0, 0, 10, 10, on), name(std::move(letter)), diary(log) {
         setAnimated(true);
-        ++alive;
     }
-    ~Walker() override { --alive; }
     void advance(int phase) override {
         diary += name + std::to_string(phase) + ' ';
         QCanvasRectangle::advance(phase);
         if (inStep)
             inStep(phase); // may delete this
     }
-    inline static int alive = 0;
     std::string name;
     std::string &diary;
     std::function<void(int)> inStep;
@@ -37,54 +31,35 @@ struct Walker : QCanvasRectangle {
 
 struct CanvasTest : testing::Test {
     std::string diary;
-    std::unique_ptr<QCanvas> canvas = std::make_unique<QCanvas>(40, 30);
-    QCanvasView view{canvas.get()};
-    Walker *a = new Walker(canvas.get(), "a", diary);
-    Walker *b = new Walker(canvas.get(), "b", diary);
+    QCanvas canvas{40, 30};
+    Walker *a = new Walker(&canvas, "a", diary);
+    Walker *b = new Walker(&canvas, "b", diary);
 };
 
 TEST_F(CanvasTest, AStepHasTwoPhasesAndTheSecondMoves) {
     a->setVelocity(1.5, -2);
     b->hide(); // steps nevertheless
     a->inStep = [&](int phase) { EXPECT_EQ(a->x(), phase == 0 ? 0 : 1.5); };
-    canvas->advance();
+    canvas.advance();
     EXPECT_EQ(diary, "a0 b0 a1 b1 ");
     EXPECT_EQ(a->y(), -2);
 }
 
 TEST_F(CanvasTest, WhoRestsGetsNoStep) {
     a->inStep = [&](int) { b->setAnimated(false); };
-    canvas->advance();
+    canvas.advance();
     a->setVelocity(0, 0);
-    canvas->advance();
+    canvas.advance();
     EXPECT_EQ(diary, "a0 a1 ");
 }
 
 TEST_F(CanvasTest, ItemsMayBeDeletedInAStep) {
-    auto *c = new Walker(canvas.get(), "c", diary);
+    auto *c = new Walker(&canvas, "c", diary);
     a->inStep = [&](int) { delete std::exchange(b, nullptr); };
     c->inStep = [&](int phase) { phase == 0 ? void() : delete c; };
-    canvas->advance();
-    canvas->advance();
+    canvas.advance();
+    canvas.advance();
     EXPECT_EQ(diary, "a0 c0 a1 c1 a0 a1 ");
-}
-
-TEST_F(CanvasTest, AStepInsideAStepIsAWholeOne) {
-    bool nested = false;
-    a->inStep = [&](int) {
-        if (!std::exchange(nested, true))
-            canvas->advance();
-    };
-    canvas->advance();
-    EXPECT_EQ(diary, "a0 a0 b0 a1 b1 b0 a1 b1 ");
-}
-
-TEST_F(CanvasTest, MayGoInAStepAndTakesItsItemsWithIt) {
-    a->inStep = [&](int) { canvas.reset(); };
-    canvas->advance();
-    EXPECT_EQ(diary, "a0 ");
-    EXPECT_EQ(Walker::alive, 0);
-    EXPECT_EQ(view.canvas(), nullptr);
 }
 
 // Counts its steps, also those without an item.
@@ -102,11 +77,8 @@ TEST(QCanvas, StepsByItselfOnlyWhileSomethingMoves) {
     CountingCanvas canvas;
     QCanvasRectangle item(&canvas);
     item.setVelocity(1, 0);
-    QElapsedTimer clock;
-    clock.start();
     canvas.setAdvancePeriod(period);
     EXPECT_TRUE(QTest::qWaitFor([&] { return canvas.steps >= 3; }));
-    EXPECT_GE(clock.elapsed(), 3 * period - 1);
     item.setVelocity(0, 0);
     canvas.steps = 0;
     QTest::qWait(2 * period);
