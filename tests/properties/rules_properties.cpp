@@ -6,108 +6,101 @@
 #include "bits/dispatch.h"
 #include "eval/heuristic.h"
 #include "tests/properties/harness.h"
-#include "tests/properties/situation.h"
 #include "tests/support/enginerig.h"
 
-#include <algorithm>
+#include <sstream>
 
 namespace {
 
-template <int N, const RuleTraits &Rules, bool White>
-class Comparison {
-    using Squares = DarkSquares<N>;
+std::string boardText(const board &b, unsigned key) {
+    return picture(b) + std::to_string(key) + '\n';
+}
 
-public:
-    Comparison(EngineRig &rig, const std::string &where)
-        : engine_(*rig.engine), host_(rig.host), position_(rig.position), where_(where) {}
+// The boxes since the last call.
+std::string boxesText(RecordingHost &host) {
+    std::string text;
+    for (const RecordingHost::Box &box : std::exchange(host.boxes, {}))
+        text += box.text.toStdString() + '\n';
+    return text;
+}
 
-    void run() {
-        compareBoards(*engine_.board, position_, White, "the position");
-        compareCaptures();
-        QValueList<LegalMove> quiet;
-        engine_.FillNotCapturingMoveList(&quiet, engine_.board);
-        MoveStack<BitMove<N>> stack;
-        generator_.listQuiet(stack);
-        compare("number of quiet moves", quiet.count(), generator_.countQuiet());
-        compareMoves(quiet, stack);
-        compareValues();
-    }
+std::string valuesText(bool canPass, int freedom, int value, int valueWithPassages) {
+    std::ostringstream text;
+    text << "a man can pass " << canPass << ", freedom " << freedom << ", value " << value
+         << ", with passages " << valueWithPassages << '\n';
+    return text.str();
+}
 
-private:
-    void compare(const std::string &what, long long byEngine, long long onBits) const {
-        wantSame(what + ' ' + std::to_string(byEngine), what + ' ' + std::to_string(onBits),
-                 where_);
-    }
+std::string saidByEngine(EngineRig &rig) {
+    AbstractEngine &engine = *rig.engine;
+    std::string text = boardText(rig.position, rig.position.HKey());
+    const auto tellMoves = [&](const QValueList<LegalMove> &moves) {
+        text += std::to_string(moves.count()) + " moves\n";
+        for (LegalMove m : moves) {
+            board after(rig.position);
+            engine.makeMove(&after, &m);
+            text += moveText(LegalMove(m.path[0], m.path[m.path.size() - 1])) + '\n';
+            text += boardText(after, after.HKey());
+        }
+    };
+    engine.FillMoveList();
+    tellMoves(engine.isCapture() ? engine.moveList : QValueList<LegalMove>());
+    QValueList<LegalMove> quiet;
+    engine.FillNotCapturingMoveList(&quiet, &rig.position);
+    tellMoves(quiet);
+    heuristic h;
+    int freedom = 0;
+    bool canPass = false;
+    heuristic *passages = engine.doHeuristic(&h, freedom, canPass);
+    return text + boxesText(rig.host) +
+           valuesText(canPass, freedom, engine.materialScore(nullptr),
+                      engine.materialScore(passages));
+}
 
-    void compareBoards(const board &byEngine, const BitPosition<N> &onBits, bool whiteToMove,
-                       const std::string &what) const {
+template <class Form, bool White>
+std::string valuesOnBits(const BitPosition<Form::squares> &p) {
+    const BitAnalysis<Form::squares> bits(p, White);
+    const BitMaterial<Form::squares, Form::rules.flyingKings> material(*AbstractEngine::pSQV,
+                                                                       AbstractEngine::isGambit);
+    const auto white = bits.whiteCanPass() ? bits.whitePassageMen() : 0;
+    const auto black = bits.blackCanPass() ? bits.blackPassageMen() : 0;
+    const int side = White ? 1 : -1;
+    return valuesText(bits.canPass(), side * AbstractEngine::freedomValue * bits.freedom(),
+                      side * material.balance(p, 0, 0), side * material.balance(p, white, black));
+}
+
+template <class Form, bool White>
+std::string saidByBits(EngineRig &rig) {
+    constexpr int N = Form::squares;
+    const BitPosition<N> position(rig.position);
+    std::string text;
+    const auto tellBoard = [&](const BitPosition<N> &p, bool whiteToMove) {
         board written(N);
         written.whiteToMove = whiteToMove;
-        onBits.writeTo(written);
-        wantSame(picture(byEngine), picture(written), what + ", " + where_);
-        compare("key of " + what, byEngine.HKey(), onBits.key(whiteToMove));
-    }
-
-    void compareMoves(const QValueList<LegalMove> &list, const MoveStack<BitMove<N>> &stack) const {
-        compare("number of moves", list.count(), static_cast<int>(stack.size()));
-        std::size_t i = 0;
-        for (LegalMove m : list) {
-            const BitMove<N> &bits = stack[i++];
-            wantSame(moveText(LegalMove(m.path[0], m.path[m.path.size() - 1])),
-                     moveText(LegalMove(Squares::squareOf(bits.from), Squares::squareOf(bits.to))),
-                     where_);
-            board after(engine_.board);
-            engine_.makeMove(&after, &m);
-            compareBoards(after, position_.template after<White>(bits), !White, moveText(m));
+        p.writeTo(written);
+        text += boardText(written, p.key(whiteToMove));
+    };
+    const auto tellMoves = [&](const MoveStack<BitMove<N>> &moves, std::size_t count) {
+        text += std::to_string(count) + " moves\n";
+        for (std::size_t i = 0; i < moves.size(); ++i) {
+            text += moveText(LegalMove(DarkSquares<N>::squareOf(moves[i].from),
+                                       DarkSquares<N>::squareOf(moves[i].to)));
+            text += '\n';
+            tellBoard(position.template after<White>(moves[i]), !White);
         }
-    }
-
-    void compareCaptures() {
-        engine_.FillMoveList();
-        const auto boxes = std::exchange(host_.boxes, {});
-        MoveStack<BitMove<N>> stack;
-        {
-            const CaptureLimitScope report;
-            if (generator_.canCapture())
-                generator_.listCaptures(stack);
-        }
-        if (boxes != host_.boxes)
-            reportFault("different boxes", where_);
-        if (engine_.isCapture() || stack.size() > 0)
-            compareMoves(engine_.moveList, stack);
-    }
-
-    void compareValues() {
-        heuristic h;
-        int freedom = 0;
-        bool canPass = false;
-        heuristic *passages = engine_.doHeuristic(&h, freedom, canPass);
-        const BitAnalysis<N> bits(position_, White);
-        const auto white = bits.whiteCanPass() ? bits.whitePassageMen() : 0;
-        const auto black = bits.blackCanPass() ? bits.blackPassageMen() : 0;
-        const int side = White ? 1 : -1;
-        compare("a man can pass", canPass, bits.canPass());
-        compare("freedom", freedom, side * AbstractEngine::freedomValue * bits.freedom());
-        const BitMaterial<N, Rules.flyingKings> material(*AbstractEngine::pSQV,
-                                                         AbstractEngine::isGambit);
-        compare("value", engine_.materialScore(nullptr), side * material.balance(position_, 0, 0));
-        compare("value with passages", engine_.materialScore(passages),
-                side * material.balance(position_, white, black));
-    }
-
-    AbstractEngine &engine_;
-    RecordingHost &host_;
-    const BitPosition<N> position_;
-    BitMoveGenerator<N, Rules, White> generator_{position_};
-    const std::string &where_;
-};
-
-template <int N, const RuleTraits &Rules>
-void compare(EngineRig &rig, const std::string &where) {
-    if (rig.position.whiteToMove)
-        Comparison<N, Rules, true>(rig, where).run();
-    else
-        Comparison<N, Rules, false>(rig, where).run();
+    };
+    tellBoard(position, White);
+    BitMoveGenerator<N, Form::rules, White> generator(position);
+    MoveStack<BitMove<N>> captures;
+    auto report = std::make_unique<CaptureLimitScope>();
+    if (generator.canCapture())
+        generator.listCaptures(captures);
+    report.reset();
+    tellMoves(captures, captures.size());
+    MoveStack<BitMove<N>> quiet;
+    generator.listQuiet(quiet);
+    tellMoves(quiet, static_cast<std::size_t>(generator.countQuiet()));
+    return text + boxesText(rig.host) + valuesOnBits<Form, White>(position);
 }
 
 void bitsSayWhatTheEngineSays(Bytes &bytes) {
@@ -116,8 +109,12 @@ void bitsSayWhatTheEngineSays(Bytes &bytes) {
     EngineRig rig(situation.rules, situation.position);
     rig.values.reFill(situation.position.size, gambit);
     AbstractEngine::isGambit = gambit;
-    dispatchBits(situation.rules, situation.position.size,
-                 [&](auto form) { compare<form.squares, form.rules>(rig, describe(situation)); });
+    dispatchBits(situation.rules, situation.position.size, [&](auto form) {
+        using Form = decltype(form);
+        const std::string onBits =
+            rig.position.whiteToMove ? saidByBits<Form, true>(rig) : saidByBits<Form, false>(rig);
+        wantSame(saidByEngine(rig), onBits, describe(situation));
+    });
 }
 
 } // namespace

@@ -1,30 +1,25 @@
 #include "tests/support/drawnboard.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string_view>
 
 static constexpr std::string_view letters = ".....wW..bB"; // by square code
 
 board drawn(const std::string &picture) {
-    std::istringstream words(picture);
-    std::string side;
-    std::string row;
-    std::string rows;
-    words >> side;
-    int size = 0;
-    for (; words >> row; ++size)
-        rows.insert(0, row);
+    QStringList rows = QString::fromStdString(picture).simplified().split(' ');
+    const bool whiteToMove = rows.takeFirst() == "w";
+    const int size = XY::B_SIZE = static_cast<int>(rows.size());
     board b(size);
     b.clear();
-    b.whiteToMove = side == "w";
-    XY::B_SIZE = size;
-    EXPECT_EQ(rows.size(), static_cast<std::size_t>(size * size)) << picture;
+    b.whiteToMove = whiteToMove;
     for (int i = 0; i < size * size; ++i) {
-        const std::size_t code = letters.find(rows.at(static_cast<std::size_t>(i)));
-        EXPECT_TRUE(code == 0 || (code <= blackKing && (i / size + i % size) % 2 == 0)) << picture;
-        b.squares[i % size][i / size] = static_cast<unsigned char>(code);
+        const int x = i % size;
+        const int y = i / size;
+        const std::size_t code = letters.find(rows[size - 1 - y].toStdString().at(x));
+        EXPECT_TRUE(code == 0 || (code <= blackKing && (x + y) % 2 == 0)) << picture;
+        b.squares[x][y] = static_cast<unsigned char>(code);
     }
     return b;
 }

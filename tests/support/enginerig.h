@@ -41,8 +41,6 @@ struct EngineRig {
         AbstractEngine::setSQV(nullptr);
         AbstractEngine::setHashTable(nullptr);
     }
-    EngineRig(const EngineRig &) = delete;
-    EngineRig &operator=(const EngineRig &) = delete;
 
     // From now on no level of a search is left to the bit sets.
     void leaveOutBits() { engine->deepSearchAllowed = false; }

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(Perft, KnownTrees) {
     const struct {
         RuleSet rules;
@@ -27,13 +25,8 @@ TEST(Perft, KnownTrees) {
 
 TEST(Perft, TheSharesOfTheFirstMovesAreAllOfTheTree) {
     Perft perft(RuleSet::International, board(10));
-    const std::vector<Perft::Share> shares = perft.divide(4);
-    ASSERT_EQ(shares.size(), 9U);
-    EXPECT_EQ(shares.front().move, "(1,3)->(0,4)");
     quint64 sum = 0;
-    for (const Perft::Share &share : shares)
+    for (const Perft::Share &share : perft.divide(4))
         sum += share.positions;
     EXPECT_EQ(sum, 4265U);
 }
-
-} // namespace
