@@ -31,6 +31,13 @@ struct BoardTest : testing::Test {
         piece->setBoardPos(bx, by);
         return piece;
     }
+    // What a press at a pixel reports: column, row, whether with the right button.
+    QVariantList press(QPointF at, Qt::MouseButton button = Qt::LeftButton) {
+        QSignalSpy taps(&view, &MyCanvasView::clickedBxy);
+        QMouseEvent event(QEvent::MouseButtonPress, at, at, button, button, {});
+        QCoreApplication::sendEvent(view.viewport(), &event);
+        return taps.value(0);
+    }
     // The colour at (dx, dy) of a square; there is nothing but the square's own at (1, 1).
     std::string colour(int bx, int by, int dx = 1, int dy = 1) {
         const QPoint at(bx * 23 + dx, (9 - by) * 23 + dy);
@@ -59,17 +66,6 @@ struct FlightTest : BoardTest {
     QArray<XY> path;
     QSignalSpy flights{&canvas, &DrCanvas::signalFly};
     QSignalSpy dances{&canvas, &DrCanvas::signalDance};
-};
-
-struct TapTest : BoardTest {
-    // What a press at a pixel reports: column, row, whether with the right button.
-    QVariantList press(QPointF at, Qt::MouseButton button = Qt::LeftButton) {
-        QSignalSpy taps(&view, &MyCanvasView::clickedBxy);
-        QMouseEvent event(QEvent::MouseButtonPress, at, at, button, button, {});
-        QCoreApplication::sendEvent(view.viewport(), &event);
-        return taps.value(0);
-    }
-    const QVariantList nothing;
 };
 
 } // namespace
@@ -169,15 +165,15 @@ TEST_F(FlightTest, SecondDanceIsRefused) {
               (RecordingHost::Box{BoxKind::Warning, "DrCanvasPiece::setDanceTo", "still busy"}));
 }
 
-TEST_F(TapTest, PressesBecomePlayingSquares) {
+TEST_F(BoardTest, PressesBecomePlayingSquares) {
     EXPECT_EQ(press({22.67, 207.33}), QVariantList({0, 0, false}));
     EXPECT_EQ(press({23, 206}), QVariantList({1, 1, false}));
-    EXPECT_EQ(press({23, 229}), nothing) << "a light square";
+    EXPECT_EQ(press({23, 229}), QVariantList()) << "a light square";
     EXPECT_EQ(press({0, 229}, Qt::RightButton), QVariantList({0, 0, true}));
     // 8 squares of 28 pixels leave a strip of 6. The points in it lie where playing squares would
     // go on: in column 8 of row 6, and in column 1 of the row below the board.
     metrics.size = 8;
     EXPECT_EQ(press({223, 0}), QVariantList({7, 7, false}));
-    EXPECT_EQ(press({225, 30}), nothing);
-    EXPECT_EQ(press({30, 225}), nothing);
+    EXPECT_EQ(press({225, 30}), QVariantList());
+    EXPECT_EQ(press({30, 225}), QVariantList());
 }
