@@ -77,9 +77,9 @@ void wantSound(const hashTable &table, const std::string &where) {
 
 Situation readSituation(Bytes &bytes) {
     const int first = bytes.take();
-    const int size = boardSizes[first / 3 % 4].squares;
+    const int size = boardSizes[first / 3 % std::size(boardSizes)].squares;
     XY::B_SIZE = size;
-    Situation situation{ruleRows[first % 3].id, board(size)};
+    Situation situation{ruleRows[first % std::size(ruleRows)].id, board(size)};
     board &b = situation.position;
     if (first / 24 % 2 == 0) {
         playGame(bytes, situation.rules, b);

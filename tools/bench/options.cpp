@@ -2,6 +2,7 @@
 
 #include "search/levels.h"
 #include "tools/bench/benchrun.h"
+#include "tools/common/positionline.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -37,12 +38,13 @@ void describeBench(QCommandLineParser &parser) {
                       "Search each position so many seconds, as the game's levels do, "
                       "and tell the depth reached.",
                       "seconds"});
-    parser.addOption({{"p", "positions"},
-                      "Read the positions from a file: on each line a name, the rules "
-                      "(international, american, polish), normal or giveaway, the depth in plies, "
-                      "and a position line.",
-                      "file",
-                      BenchOptions().file});
+    parser.addOption(
+        {{"p", "positions"},
+         QString("Read the positions from a file: on each line a name, the rules (%1), "
+                 "normal or giveaway, the depth in plies, and a position line.")
+             .arg(ruleWords()),
+         "file",
+         BenchOptions().file});
     parser.addOption({{"o", "only"},
                       "Only the position of this name or, where there is none, those "
                       "whose names contain it.",
