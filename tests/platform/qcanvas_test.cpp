@@ -62,6 +62,15 @@ TEST_F(CanvasTest, ItemsMayBeDeletedInAStep) {
     EXPECT_EQ(diary, "a0 c0 a1 c1 a0 a1 ");
 }
 
+TEST(QCanvas, MayGoInAStep) {
+    std::string diary;
+    auto *canvas = new QCanvas(40, 30);
+    auto *item = new Walker(canvas, "a", diary);
+    item->inStep = [&](int) { delete canvas; };
+    canvas->advance();
+    EXPECT_EQ(diary, "a0 ");
+}
+
 // Counts its steps, also those without an item.
 struct CountingCanvas : QCanvas {
     CountingCanvas() : QCanvas(40, 30) {}
