@@ -37,10 +37,6 @@ struct Judge {
     std::unique_ptr<AbstractEngine> engine;
 };
 
-bool same(const LegalMove &a, const LegalMove &b) {
-    return std::ranges::equal(a.path, b.path) && std::ranges::equal(a.taken, b.taken);
-}
-
 } // namespace
 
 void GameModel::newGame() {
@@ -64,12 +60,11 @@ void GameModel::handTurn() {
     } else if (position.whiteToMove ? whiteComputer : blackComputer) {
         phase = Phase::Thinking;
         status = "*** THINKING ***";
-        statusShown = true;
     } else {
         phase = Phase::Waiting;
         status = legal.front().isCapture() ? "You Must Capture" : "Your Move";
-        statusShown = true;
     }
+    statusShown = statusShown || phase != Phase::Over;
 }
 
 // The person takes the side to move against the computer.
@@ -128,8 +123,7 @@ void GameModel::tap(const XY &square) {
         return;
     if (open != Open::Nothing)
         fault = "a tap has reached the board behind a dialog";
-    const bool offered = std::find(nextMarks.begin(), nextMarks.end(), square) != nextMarks.end();
-    if (!offered && position.Get(square) != 0)
+    if (position.Get(square) != 0 && std::ranges::count(nextMarks, square) == 0)
         entered.clear();
     entered.push_back(square);
     clearMarks();
@@ -160,7 +154,10 @@ void GameModel::startFlight(const LegalMove &m) {
 }
 
 void GameModel::begin(const LegalMove &m) {
-    if (std::none_of(legal.begin(), legal.end(), [&m](const LegalMove &l) { return same(l, m); }))
+    const auto isPlayed = [&m](const LegalMove &l) {
+        return std::ranges::equal(l.path, m.path) && std::ranges::equal(l.taken, m.taken);
+    };
+    if (std::ranges::none_of(legal, isPlayed))
         fault = "the computer plays a move that is not legal";
     afterSearch = true;
     statusShown = false;
@@ -194,12 +191,8 @@ void GameModel::accept(const Choices &shown) {
         return;
     const bool otherSize = shown.size != choices.size;
     choices = shown;
-    if (otherSize) {
-        newGame();
-        return;
-    }
     takePlayersByChoice();
-    handTurn();
+    otherSize ? newGame() : handTurn();
 }
 
 // A size that was chosen and given up leaves the turn as it was, with a move half entered.
@@ -233,10 +226,6 @@ void GameModel::reopen() {
         handTurn();
 }
 
-bool GameModel::breakShown() const {
-    return phase == Phase::Thinking || (phase == Phase::Flying && afterSearch);
-}
-
 // NewGame may be pressed while the player's own piece flies; nothing comes of it.
 bool GameModel::pressable(const std::string &button) const {
     const bool resting = phase == Phase::Waiting || phase == Phase::Over;
@@ -245,7 +234,7 @@ bool GameModel::pressable(const std::string &button) const {
     if (button == "Fwd")
         return resting && cursor + 1 < history.size();
     if (button == "Break")
-        return breakShown();
+        return phase == Phase::Thinking || (phase == Phase::Flying && afterSearch);
     if (button == "Force")
         return phase == Phase::Waiting;
     if (button == "NewGame")
@@ -265,41 +254,29 @@ board GameModel::shownPosition() const {
 }
 
 std::string GameModel::phaseText() const {
-    constexpr const char *names[] = {"waiting", "thinking", "flying", "over", "closed"};
-    if (phase != Phase::Flying)
-        return names[static_cast<int>(phase)];
-    return "flying " + moveText(*flight) + " to " + inOrder({flight->path[leg]});
+    constexpr const char *names[] = {"waiting", "thinking", "flying ", "over"};
+    const std::string name = names[static_cast<int>(phase)];
+    return flight ? name + moveText(*flight) + " to " + inOrder({flight->path[leg]}) : name;
 }
 
 std::string GameModel::controlsText() const {
     int white = 0;
     int black = 0;
     position.countPieces(white, black);
-    std::ostringstream text;
-    text << '[' << (statusShown ? status : "") << "] " << white << '/' << black;
-    for (const char *button : {"Prev", "Fwd", "About", "Break", "Force", "Settings", "NewGame"}) {
-        if (pressable(button))
-            text << ' ' << button;
-    }
-    return text.str();
+    std::string text = '[' + (statusShown ? status : "") + "] " + std::to_string(white) + '/' +
+                       std::to_string(black);
+    for (const char *button : {"Prev", "Fwd", "About", "Break", "Force", "Settings", "NewGame"})
+        text += pressable(button) ? std::string(" ") + button : "";
+    return text;
 }
 
 std::string GameModel::requestText() const {
     constexpr const char *engines[] = {"IntEngine", "AmEngine", "PolEngine"};
-    constexpr const char *levels[] = {"depth 1, noise 1000", "depth 2, noise 400", "2 s, noise 5",
-                                      "5 s, noise 5",        "10 s, noise 5",      "20 s, noise 5",
-                                      "60 s, noise 5",       "99999999 s, noise 5"};
-    return std::string(engines[choices.rules]) + ", " + levels[choices.level] +
+    constexpr const char *requests[] = {
+        "depth 1, noise 1000", "depth 2, noise 400", "2 s, noise 5",  "5 s, noise 5",
+        "10 s, noise 5",       "20 s, noise 5",      "60 s, noise 5", "99999999 s, noise 5"};
+    return std::string(engines[choices.rules]) + ", " + requests[choices.level] +
            (choices.giveAway ? ", give-away" : "");
-}
-
-std::string GameModel::settingsText() const {
-    if (open == Open::Settings)
-        return "being chosen";
-    std::ostringstream text;
-    text << "rules " << choices.rules << ", size " << choices.size << ", level " << choices.level
-         << ", players " << choices.players << ", give-away " << choices.giveAway;
-    return text.str();
 }
 
 std::string GameModel::historyText(bool thorough) const {
@@ -313,54 +290,40 @@ std::string GameModel::historyText(bool thorough) const {
 
 // A box that has to open is as good as one.
 std::string GameModel::openText() const {
-    switch (due != Open::Nothing ? due : open) {
-    case Open::NewGameBox:
-        return newGameBox;
-    case Open::GameOverBox:
-        return gameOverBox;
-    case Open::Settings:
-        return "settings\n";
-    case Open::About:
-        return "about\n";
-    case Open::Nothing:
-        break;
-    }
-    return "";
+    const std::string texts[] = {"", "settings\n", "about\n", newGameBox, gameOverBox};
+    return texts[static_cast<int>(due != Open::Nothing ? due : open)];
 }
 
 Snapshot GameModel::snapshot(bool thorough) const {
     const board b = shownPosition();
-    const auto code = [&b](int x, int y) { return letterOf(b.squares[x][y]); };
-    const std::string rows = drawing(b.size, code);
     if (phase == Phase::Closed)
-        return {{"phase", "closed"}, {"position", rows}};
+        return {{"phase", "closed"}, {"position", picture(b)}};
     const auto sprite = [&](int x, int y) {
-        return flight.has_value() && flight->from() == XY(x, y) ? '*' : code(x, y);
+        return flight.has_value() && flight->from() == XY(x, y) ? '*' : letterOf(b.squares[x][y]);
     };
+    const std::string rows = drawing(b.size, sprite);
     const auto onBoard = std::ranges::count_if(rows, [](char c) { return c != '.' && c != '\n'; });
     const int sprites = b.StaringNumber();
     Snapshot all = {
         {"phase", phaseText()},
-        {"side to move", b.whiteToMove ? "white" : "black"},
         {"ply", std::to_string(b.plyCount)},
         {"squares", std::to_string(b.size)},
-        {"position", rows},
-        {"sprites", drawing(b.size, sprite)},
+        {"position", picture(b)},
+        {"sprites", rows},
         {"sprites in the pool",
          std::to_string(sprites - onBoard) + " hidden of " + std::to_string(sprites)},
         {"next squares", inOrder(nextMarks)},
         {"path", inOrder(pathMarks)},
-        {"computer plays white", std::to_string(whiteComputer)},
-        {"computer plays black", std::to_string(blackComputer)},
+        {"computer plays", computersText(whiteComputer, blackComputer)},
         {"history", historyText(thorough)},
         {"request", requestText()},
         {"controls", controlsText()},
         {"pointer", phase == Phase::Thinking ? "forbidden" : "arrow"},
         {"open", openText()},
-        {"settings", settingsText()},
+        {"settings", open == Open::Settings ? "settings\n" : choices.text()},
         {"layout", layoutInOrder},
     };
     if (thorough && !flight.has_value())
-        all.emplace_back("pixels", rows);
+        all.emplace_back("pixels", picture(b).substr(2));
     return all;
 }

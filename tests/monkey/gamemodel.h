@@ -18,7 +18,12 @@ struct Choices {
     int level = 3;
     int players = 0;
     bool giveAway = false;
-    bool operator==(const Choices &) const = default;
+
+    std::string text() const {
+        return "rules " + std::to_string(rules) + ", size " + std::to_string(size) + ", level " +
+               std::to_string(level) + ", players " + std::to_string(players) + ", give-away " +
+               std::to_string(giveAway);
+    }
 };
 
 // A second, plain implementation of the game's control, without a window. It is told each thing
@@ -80,12 +85,10 @@ private:
     void step(int by);
     void startFlight(const LegalMove &m);
     void clearMarks();
-    bool breakShown() const;
     board shownPosition() const;
     std::string phaseText() const;
     std::string controlsText() const;
     std::string requestText() const;
-    std::string settingsText() const;
     std::string historyText(bool thorough) const;
     std::string openText() const;
 

@@ -2,9 +2,9 @@
 #ifndef TESTS_MONKEY_JOURNAL_H
 #define TESTS_MONKEY_JOURNAL_H
 
-#include <cstdint>
 #include <cstdlib>
 #include <deque>
+#include <functional>
 #include <iostream>
 #include <string>
 
@@ -15,14 +15,20 @@ public:
     Journal(unsigned seed, int limit, bool trace) : seed_(seed), limit_(limit), trace_(trace) {}
 
     // A new event, in words.
-    void event(const std::string &what) { add(std::to_string(++events_) + " " + what); }
+    void event(const std::string &what) { note(std::to_string(++events_) + " " + what); }
     // Something that follows from it.
-    void note(const std::string &what) { add("    " + what); }
+    void note(const std::string &line) {
+        hash_ = hash_ * 31 + std::hash<std::string>()(line);
+        if (trace_)
+            std::cout << line << std::endl;
+        last_.push_back(line);
+        if (last_.size() > 40)
+            last_.pop_front();
+    }
 
     // What is not as it must be, after the last events, on standard error. Ends the program with
     // status 1: event loops are running that nothing sensible could be done in any more.
     [[noreturn]] void fail(const std::string &fault) const {
-        std::cerr << "seed " << seed_ << ", event " << events_ << ". The last ones:\n";
         for (const std::string &line : last_)
             std::cerr << line << '\n';
         std::cerr << "broken:\n"
@@ -32,25 +38,14 @@ public:
     }
 
     bool isOver() const { return events_ >= limit_; }
-    std::uint64_t hash() const { return hash_; }
+    std::size_t hash() const { return hash_; }
 
 private:
-    void add(const std::string &line) {
-        constexpr std::uint64_t prime = 1099511628211U;
-        for (const char letter : line)
-            hash_ = (hash_ ^ static_cast<unsigned char>(letter)) * prime;
-        if (trace_)
-            std::cout << line << std::endl;
-        last_.push_back(line);
-        if (last_.size() > 40)
-            last_.pop_front();
-    }
-
     unsigned seed_;
     int limit_;
     bool trace_;
     int events_ = 0;
-    std::uint64_t hash_ = 14695981039346656037U; // FNV-1a
+    std::size_t hash_ = 0;
     std::deque<std::string> last_;
 };
 

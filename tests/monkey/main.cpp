@@ -6,18 +6,19 @@
 
 #include <QCommandLineParser>
 
-#include <algorithm>
 #include <iostream>
-#include <iterator>
 
 namespace {
 
-std::string complaints; // the toolkit's
+// All rules on all sizes, all levels, and the ends of a game and a window.
+constexpr std::size_t everything = 3 * 4 + 8 + 2;
+
+QString complaints; // the toolkit's
 
 // What the toolkit complains of is a fault, but for what the offscreen platform cannot do.
 void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text) {
     if (!text.startsWith("This plugin does not support") && type != QtDebugMsg && type != QtInfoMsg)
-        complaints += text.toStdString() + '\n';
+        complaints += text + '\n';
 }
 
 // The toolkit as every machine has it: no display, no scale, no other language.
@@ -29,26 +30,27 @@ void prepareToolkit() {
         qputenv(language, "C");
 }
 
-// All rules on all sizes, and all levels.
-bool playedEverything(const Tally &tally) {
-    const auto isZero = [](int n) { return n == 0; };
-    return std::ranges::none_of(tally.searches, isZero) &&
-           std::all_of(std::begin(tally.moves), std::end(tally.moves),
-                       [&](const auto &bySize) { return std::ranges::none_of(bySize, isZero); });
-}
-
-bool runSeed(unsigned seed, int events, const QCommandLineParser &options, Tally &tally) {
-    const std::uint64_t hash = Monkey(seed, events, options.isSet("trace"), tally).run();
-    std::cout << "seed " << seed << ": " << std::hex << hash << std::dec << std::endl;
-    if (!complaints.empty()) {
-        std::cerr << "the toolkit complains:\n" << complaints;
-        return false;
+int runSeeds(const QCommandLineParser &options) {
+    Tally tally;
+    const unsigned first = options.value("seed").toUInt();
+    for (unsigned seed = first; seed < first + options.value("seeds").toUInt(); ++seed) {
+        const auto run = [&] {
+            const int events = options.value("events").toInt();
+            return Monkey(seed, events, options.isSet("trace"), tally).run();
+        };
+        const std::size_t hash = run();
+        std::cout << "seed " << seed << ": " << std::hex << hash << std::dec << std::endl;
+        if (options.isSet("twice") && run() != hash)
+            return fail("it went another way the second time");
+        if (!complaints.isEmpty())
+            return fail("the toolkit complains: " + complaints);
     }
-    Tally ignored;
-    if (!options.isSet("twice") || Monkey(seed, events, false, ignored).run() == hash)
-        return true;
-    std::cerr << "it went another way the second time\n";
-    return false;
+    for (const auto &[what, times] : tally)
+        std::cout << what << ": " << times << std::endl;
+    if (tally.empty())
+        return fail("--seeds and --events want numbers from 1 up");
+    return options.isSet("all") && tally.size() != everything ? fail("something was not played")
+                                                              : 0;
 }
 
 } // namespace
@@ -69,22 +71,6 @@ int main(int argc, char **argv) {
                         {"all", "Fail unless all rules, sizes and levels were played."},
                         {"twice", "Run each seed twice; it has to go the same way."},
                         {"trace", "Tell every event."}});
-    if (const std::optional<int> status = parseCommandLine(options))
-        return *status;
-    const unsigned first = options.value("seed").toUInt();
-    const unsigned seeds = options.value("seeds").toUInt();
-    const int events = options.value("events").toInt();
-    if (seeds < 1 || events < 1)
-        return fail("--seeds and --events want numbers from 1 up");
-    Tally tally;
-    for (unsigned seed = first; seed < first + seeds; ++seed) {
-        if (!runSeed(seed, events, options, tally))
-            return 1;
-    }
-    std::cout << "games over: " << tally.gamesOver << ", begun again: " << tally.newGames
-              << ", BREAK: " << tally.breaks << ", boxes: " << tally.boxes
-              << ", window closed and opened: " << tally.restarts << std::endl;
-    if (options.isSet("all") && !playedEverything(tally))
-        return fail("too few events to play everything");
-    return 0;
+    const std::optional<int> status = parseCommandLine(options);
+    return status.has_value() ? *status : runSeeds(options);
 }

@@ -28,13 +28,6 @@ constexpr int veryManyRounds = 400;
 constexpr int checksBetweenThoroughOnes = 64;
 constexpr int applicationPoints = 9;
 
-// Runs events inside the event loop of a dialog.
-const auto dialogShown = static_cast<QEvent::Type>(QEvent::registerEventType());
-struct DialogShown : QEvent {
-    explicit DialogShown(QDialog *dialog) : QEvent(dialogShown), shown(dialog) {}
-    QPointer<QDialog> shown;
-};
-
 } // namespace
 
 Monkey::Monkey(unsigned seed, int events, bool trace, Tally &tally)
@@ -52,14 +45,19 @@ Monkey::~Monkey() {
     setHost(previous_);
 }
 
-std::uint64_t Monkey::run() {
+std::size_t Monkey::run() {
     openWindow();
     while (!journal_.isOver()) {
         step();
         if (!window_->isClosed())
             continue;
-        ++tally_.restarts;
-        dice_.oneIn(2) ? openWindow() : showAgain();
+        ++tally_["window closed"];
+        if (dice_.oneIn(2)) {
+            openWindow();
+        } else {
+            model_.reopen();
+            show();
+        }
     }
     window_.reset();
     return journal_.hash();
@@ -74,22 +72,15 @@ void Monkey::openWindow() {
     }
     window_.reset();
     model_ = GameModel();
-    searching_ = false;
     window_ = std::make_unique<OpenGame>();
     connect(window_->pSettings.get(), &QDialog::finished, this,
             [this](int result) { leaveSettings(result == QDialog::Accepted); });
     connect(window_->pAbout, &QDialog::finished, this, [this] { model_.leaveAbout(); });
-    window_->show();
-    window_->activateWindow();
-    QCoreApplication::processEvents();
-    check();
+    show();
 }
 
-// The one that was closed.
-void Monkey::showAgain() {
-    journal_.note("show it again");
+void Monkey::show() {
     searching_ = false;
-    model_.reopen();
     window_->show();
     window_->activateWindow();
     QCoreApplication::processEvents();
@@ -128,7 +119,7 @@ unsigned Monkey::seed() {
         journal_.fail("a search begins that has no reason to");
     if (std::exchange(searching_, true))
         journal_.fail("a search begins inside another");
-    ++tally_.searches[model_.choices.level];
+    ++tally_["level " + std::to_string(model_.choices.level)];
     rounds_ = 0;
     return static_cast<unsigned>(dice_.below(1000));
 }
@@ -137,21 +128,11 @@ bool Monkey::messageBox(BoxKind kind, const QString &title, const QString &text,
                         QWidget *parent) {
     follow();
     journal_.note("box " + text.toStdString());
-    ++tally_.boxes;
     model_.openBox();
-    const bool newGame = model_.open == GameModel::Open::NewGameBox;
     const bool confirmed = GuiHost::messageBox(kind, title, text, buttons, parent);
     journal_.note(confirmed ? "box confirmed" : "box left");
-    tally_.newGames += newGame && confirmed;
     model_.answer(confirmed);
     return confirmed;
-}
-
-bool Monkey::event(QEvent *event) {
-    if (event->type() != dialogShown)
-        return GuiHost::event(event);
-    runDialog(static_cast<DialogShown *>(event)->shown);
-    return true;
 }
 
 void Monkey::runDialog(QDialog *dialog) {
@@ -170,7 +151,7 @@ void Monkey::leaveSettings(bool accepted) {
     const Choices shown = {dialog.cmbRules->currentIndex(), dialog.cmbSize->currentIndex(),
                            dialog.cmbLevel->currentIndex(), dialog.cmbPlayers->currentIndex(),
                            dialog.chGiveAway->isChecked()};
-    journal_.note((accepted ? "settings accepted: " : "settings left: ") + settingsText(*window_));
+    journal_.note((accepted ? "settings accepted: " : "settings left: ") + shown.text());
     accepted ? model_.accept(shown) : model_.reject(shown);
 }
 
@@ -182,7 +163,8 @@ bool Monkey::eventFilter(QObject *watched, QEvent *event) {
         return true;
     case QEvent::Show:
         if (dialog != nullptr && !event->spontaneous())
-            QCoreApplication::postEvent(this, new DialogShown(dialog));
+            QMetaObject::invokeMethod(
+                this, [this, shown = QPointer(dialog)] { runDialog(shown); }, Qt::QueuedConnection);
         break;
     case QEvent::MouseButtonRelease:
     case QEvent::KeyRelease:
@@ -221,7 +203,6 @@ void Monkey::watchButton(const QPushButton &button, const QEvent *event) {
 
 void Monkey::noteClick(const std::string &button) {
     journal_.note("clicks " + button);
-    tally_.breaks += button == "Break";
     model_.click(button);
 }
 
@@ -253,10 +234,11 @@ void Monkey::follow() {
     if (timePasses_ && model_.phase == GameModel::Phase::Flying) {
         const XY from = model_.flight->from();
         if (game.pBoard->plyCount == model_.position.plyCount + 1) {
-            ++tally_.moves[model_.choices.rules][model_.choices.size];
+            ++tally_[model_.choices.text().substr(0, sizeof "rules 0, size 0" - 1)];
             journal_.note("lands");
             model_.land();
-            tally_.gamesOver += model_.phase == GameModel::Phase::Over;
+            if (model_.phase == GameModel::Phase::Over)
+                ++tally_["game over"];
         } else if (const DrCanvasPiece *piece = game.pieces[from.x][from.y]) {
             model_.flyTo({piece->boardX(), piece->boardY()});
         }
@@ -273,8 +255,6 @@ void Monkey::check() {
     const bool thorough = ++checks_ % checksBetweenThoroughOnes == 0;
     const Snapshot expected = model_.snapshot(thorough);
     const Snapshot seen = snapshotOf(*window_, thorough);
-    if (!model_.fault.empty() || seen != expected) {
-        journal_.fail(model_.fault + "\n" + difference(expected, seen) + "All that must be:\n" +
-                      textOf(expected));
-    }
+    if (!model_.fault.empty() || seen != expected)
+        journal_.fail(model_.fault + '\n' + difference(expected, seen));
 }

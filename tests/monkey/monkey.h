@@ -10,16 +10,13 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <map>
 #include <memory>
 
 class QPushButton;
 
-// What all runs together have seen.
-struct Tally {
-    int moves[3][4] = {}; // by rules and size
-    int searches[8] = {}; // by level
-    int gamesOver = 0, newGames = 0, breaks = 0, boxes = 0, restarts = 0;
-};
+// What all runs together have seen, and how often.
+using Tally = std::map<std::string, int>;
 
 // Has the user act, tells the model what reaches the game, and holds the game to it after each
 // event: a press on the board, a release on a button that is held down, a dialog that closes go to
@@ -38,7 +35,7 @@ public:
     ~Monkey() override;
 
     // Ends the program when a check fails; otherwise the hash of all that happened.
-    std::uint64_t run();
+    std::size_t run();
 
     // For the user.
     OpenGame &game() { return *window_; }
@@ -57,11 +54,10 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    bool event(QEvent *event) override;
 
 private:
     void openWindow();
-    void showAgain();
+    void show();
     void step();
     void check();
     void follow();

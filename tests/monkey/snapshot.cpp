@@ -40,8 +40,8 @@ char spriteLetter(const OpenGame &game, int x, int y) {
     if (piece == nullptr)
         return '.';
     const boardMetrics &m = *game.pMetrics;
-    const QRect place(x * m.SquareWidthB(), (m.size - 1 - y) * m.SquareHeightB(), m.SquareWidthB(),
-                      m.SquareHeightB());
+    const int side = m.SquareWidthB();
+    const QRect place(x * side, (m.size - 1 - y) * side, side, side);
     if (!piece->visible() || piece->z() != (piece->isDancing() ? 2 : 1))
         return '?';
     if (piece->isDancing())
@@ -96,12 +96,6 @@ std::string openText(const OpenGame &game) {
     return text + (game.pAbout->isVisible() ? "about\n" : "");
 }
 
-std::string settingsLine(const OpenGame &game) {
-    const std::string text = settingsText(game);
-    const bool choosing = game.pSettings->isVisible() && text.find("kept") == std::string::npos;
-    return choosing ? "being chosen" : text;
-}
-
 std::string layoutText(const OpenGame &game) {
     std::ostringstream text;
     for (const QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnBreak,
@@ -111,16 +105,6 @@ std::string layoutText(const OpenGame &game) {
     text << "points" << (game.lblThinking->font().bold() ? ", bold" : "") << ", board at "
          << view.x() - (game.width() - view.width()) / 2 << ',' << view.y();
     return text.str();
-}
-
-std::vector<std::string> linesOf(const Snapshot &snapshot) {
-    std::vector<std::string> lines;
-    for (const auto &[heading, value] : snapshot) {
-        std::istringstream stream(value);
-        for (std::string line; std::getline(stream, line);)
-            lines.push_back(heading + ": " + line);
-    }
-    return lines;
 }
 
 } // namespace
@@ -135,51 +119,40 @@ std::string inOrder(std::vector<XY> squares) {
     return texts.join(' ').toStdString();
 }
 
-std::string textOf(const Snapshot &snapshot) {
-    std::string text;
-    for (const std::string &line : linesOf(snapshot))
-        text += line + "\n";
-    return text;
-}
-
 std::string difference(const Snapshot &model, const Snapshot &window) {
-    std::vector<std::string> expected = linesOf(model);
-    std::vector<std::string> seen = linesOf(window);
-    expected.resize(std::max(expected.size(), seen.size()));
-    seen.resize(expected.size());
     std::string text;
-    for (std::size_t i = 0; i < seen.size(); ++i) {
-        if (seen[i] != expected[i])
-            text += "must be " + expected[i] + "\nbut is  " + seen[i] + "\n";
+    for (std::size_t i = 0; i < model.size() && i < window.size(); ++i) {
+        const auto &[heading, expected] = model[i];
+        const auto &[headingSeen, seen] = window[i];
+        if (model[i] != window[i])
+            text.append(heading + " must be " + expected + "\nbut " + headingSeen + " is " + seen +
+                        "\n");
     }
     return text;
 }
 
 Snapshot snapshotOf(OpenGame &game, bool thorough) {
     const board &b = *game.pBoard;
-    const std::string rows =
-        drawing(b.size, [&b](int x, int y) { return letterOf(b.squares[x][y]); });
     if (game.isClosed())
-        return {{"phase", "closed"}, {"position", rows}};
+        return {{"phase", "closed"}, {"position", picture(b)}};
+    const std::string dialogs = openText(game);
     const std::set<int> sizes = {b.size, XY::B_SIZE, game.pMetrics->size, game.pEngine->size};
     Snapshot all = {
         {"phase", phaseText(game)},
-        {"side to move", b.whiteToMove ? "white" : "black"},
         {"ply", std::to_string(b.plyCount)},
         {"squares", sizes.size() == 1 ? std::to_string(b.size) : "not agreed on"},
-        {"position", rows},
+        {"position", picture(b)},
         {"sprites", drawing(b.size, [&game](int x, int y) { return spriteLetter(game, x, y); })},
         {"sprites in the pool", poolText(game)},
         {"next squares", markedText(game, MarkNext)},
         {"path", markedText(game, MarkPath)},
-        {"computer plays white", std::to_string(game.whiteComputer)},
-        {"computer plays black", std::to_string(game.blackComputer)},
+        {"computer plays", computersText(game.whiteComputer != 0, game.blackComputer != 0)},
         {"history", historyText(*game.pHist, thorough)},
         {"request", requestText(game)},
         {"controls", controlsText(game)},
         {"pointer", game.pView->cursor().shape() == Qt::ForbiddenCursor ? "forbidden" : "arrow"},
-        {"open", openText(game)},
-        {"settings", settingsLine(game)},
+        {"open", dialogs},
+        {"settings", dialogs == "settings\n" ? dialogs : settingsText(game)},
         {"layout", layoutText(game)},
     };
     if (thorough && !game.flies())

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-// Headings and what there is to say under each, in one or more lines.
+// Headings, the same ones for window and model, and what there is to say under each.
 using Snapshot = std::vector<std::pair<std::string, std::string>>;
 
 // The window's. The thorough one also has the pixels, where nothing flies, and the whole history.
@@ -19,9 +19,12 @@ Snapshot snapshotOf(OpenGame &game, bool thorough);
 // Squares in order, each once: "(1,1) (2,2)".
 std::string inOrder(std::vector<XY> squares);
 
-// Every line behind its heading.
-std::string textOf(const Snapshot &snapshot);
-// The lines that differ, the model's before the window's; empty when there is none.
+// Whom the computer plays.
+inline std::string computersText(bool white, bool black) {
+    return std::string(white ? "white " : "") + (black ? "black" : "");
+}
+
+// What differs, the model's before the window's; empty when nothing does.
 std::string difference(const Snapshot &model, const Snapshot &window);
 
 // How the window must be laid out, whatever happens.

@@ -6,26 +6,11 @@
 #include "view/mycanvasview.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QPushButton>
 
-namespace {
-
-constexpr Qt::Key dialogKeys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space, Qt::Key_Return,
-                                  Qt::Key_Escape, Qt::Key_Up,      Qt::Key_Down};
-constexpr Qt::Key listKeys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape};
-
-std::string text(QPoint at) {
-    return std::to_string(at.x()) + "," + std::to_string(at.y());
-}
-
-void pressCloseButton(const QWidget &window) {
-    QCloseEvent close;
-    QApplication::sendEvent(window.windowHandle(), &close);
-}
-
-} // namespace
+static constexpr Qt::Key keys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space, Qt::Key_Return,
+                                   Qt::Key_Escape, Qt::Key_Up,      Qt::Key_Down};
 
 // The gestures and what the user sees before making one.
 struct User::Gestures {
@@ -50,20 +35,14 @@ struct User::Gestures {
     bool over() const { return free() && model.phase == GameModel::Phase::Over; }
 
     // Details of the event, for the journal.
-    template <class Value>
-    Value tell(Value value) {
-        if constexpr (std::is_same_v<Value, QPoint>)
-            monkey.journal().note("at " + text(value));
-        else
-            monkey.journal().note(std::to_string(value));
+    int tell(int value) {
+        monkey.journal().note(std::to_string(value));
         return value;
     }
+    QPoint tell(QPoint at) { return {tell(at.x()), tell(at.y())}; }
     template <class List>
     auto anyOf(const List &items) {
         return *(std::begin(items) + tell(dice.below(static_cast<int>(std::size(items)))));
-    }
-    Qt::Key anyOf(std::initializer_list<Qt::Key> keys) {
-        return *(keys.begin() + tell(dice.below(static_cast<int>(keys.size()))));
     }
 
     // The next square of some legal move that begins with what is entered.
@@ -73,32 +52,31 @@ struct User::Gestures {
             for (const LegalMove &m : model.legal)
                 squares.push_back(m.from());
         }
-        tap(dice.pick(squares), Qt::LeftButton);
+        tap(dice.pick(squares));
     }
-    void tapAnySquare() { tap({dice.below(model.squares()), dice.below(model.squares())}, any()); }
-    void goOn() { click(dice.pick(std::vector{game.btnNewGame, game.btnPrev, game.btnSettings})); }
-    void clickForce() { click(game.btnForce); }
-    void clickBreak() { click(game.btnBreak); }
-    void clickSettings() { click(game.btnSettings); }
-    void clickAnyButton() { click(anyButton()); }
-    void clickAnywhere() { hand.click(&game, tell(somewhere(game)), any()); }
-    void clickTwice() { hand.doubleClick(&game, tell(anywhere()), any()); }
-    void press() { hand.press(&game, tell(anywhere()), any()); }
+    void tapAnySquare() { tap({dice.below(model.squares()), dice.below(model.squares())}); }
+    // Leaves the game's hands to the computer, and back, or changes what is played.
+    void clickPressable() {
+        std::vector<QPushButton *> pressable;
+        for (QPushButton *button : buttons()) {
+            if (model.pressable(button->objectName().mid(3).toStdString()))
+                pressable.push_back(button);
+        }
+        hand.click(&game, middle(*anyOf(pressable)));
+    }
+    void click() { hand.click(&game, tell(anywhere()), anyButton()); }
+    void press() { hand.press(&game, tell(anywhere()), anyButton()); }
     // Moves there with the button down, and lets go or not.
     void drag() {
         const QPoint at = tell(anywhere());
-        if (!hand.canRelease() || !isShown())
-            hand.drop();
-        else
-            hand.drag(at);
-        if (hand.canRelease() && !dice.oneIn(3))
+        isShown() ? hand.drag(at) : hand.drop();
+        if (hand.holds() && !dice.oneIn(3))
             hand.release(at);
     }
-    void typeKey() { Hand::type(&keyboard(), anyOf(dialogKeys)); }
+    void type() { Hand::type(&keyboard(), anyOf(keys)); }
     void holdKey() {
-        const Qt::Key key = anyOf({Qt::Key_Space, Qt::Key_Escape});
         if (keyboard().isVisible())
-            Hand::holdKey(&keyboard(), key, dice.between(1, 5));
+            Hand::holdKey(&keyboard(), anyOf(keys), dice.between(1, 5));
     }
     void passTime() { monkey.passTime(tell(dice.between(1, 10))); }
     // Within the limits that the window tells the window manager.
@@ -119,8 +97,7 @@ struct User::Gestures {
     }
     void close() {
         model.close();
-        hand.drop();
-        pressCloseButton(game);
+        game.windowHandle()->close();
     }
     void turnWheel() {
         QComboBox *chooser = anyOf(dialog->findChildren<QComboBox *>());
@@ -128,42 +105,33 @@ struct User::Gestures {
         for (int turn = 0; turn < chooser->count() && chooser->currentIndex() != item; ++turn)
             Hand::turnWheel(chooser, item < chooser->currentIndex());
     }
-    void clickInDialog() {
+    void clickInDialog() { hand.click(dialog, tell(somewhere(*dialog)), anyButton()); }
+    void clickWidget() {
         const QWidget *widget = anyOf(dialog->findChildren<QWidget *>());
-        const bool onIt = dice.oneIn(2) && widget->window() == dialog && widget->isVisible();
-        hand.click(dialog,
-                   tell(onIt ? widget->mapTo(dialog, widget->rect().center()) : somewhere(*dialog)),
-                   any());
+        if (widget->window() == dialog && widget->isVisible())
+            hand.click(dialog, widget->mapTo(dialog, widget->rect().center()));
     }
-    void clickDialogButton() {
-        const QPushButton *button = anyOf(dialog->findChildren<QPushButton *>());
-        hand.click(dialog, button->mapTo(dialog, button->rect().center()));
-    }
-    void closeDialog() { pressCloseButton(*dialog); }
-    void typeInList() { Hand::type(list, anyOf(listKeys)); }
-    void clickBesideList() { hand.click(list, {-3, -3}); }
+    void closeDialog() { dialog->windowHandle()->close(); }
+    void typeInList() { Hand::type(list, anyOf(keys)); }
 
-    Qt::MouseButton any() { return dice.oneIn(4) ? Qt::RightButton : Qt::LeftButton; }
-    QPushButton *anyButton() {
-        return anyOf(std::vector{game.btnPrev, game.btnFwd, game.btnAbout, game.btnBreak,
-                                 game.btnForce, game.btnSettings, game.btnNewGame});
+    Qt::MouseButton anyButton() { return dice.oneIn(4) ? Qt::RightButton : Qt::LeftButton; }
+    std::vector<QPushButton *> buttons() const {
+        return {game.btnPrev,  game.btnFwd,      game.btnAbout,  game.btnBreak,
+                game.btnForce, game.btnSettings, game.btnNewGame};
     }
     QPoint somewhere(const QWidget &widget) {
         return {dice.below(widget.width()), dice.below(widget.height())};
     }
     // On a button, shown or not, or anywhere.
-    QPoint anywhere() {
-        const QPushButton *button = anyButton();
-        return dice.oneIn(3) ? somewhere(game) : button->mapTo(&game, somewhere(*button));
+    QPoint anywhere() { return dice.oneIn(4) ? somewhere(game) : middle(*anyOf(buttons())); }
+    QPoint middle(const QWidget &widget) const {
+        return widget.mapTo(&game, widget.rect().center());
     }
-    void click(const QPushButton *button) {
-        hand.click(&game, tell(button->mapTo(&game, button->rect().center())));
-    }
-    void tap(const XY &square, Qt::MouseButton button) {
+    void tap(const XY &square) {
         const boardMetrics &m = *game.pMetrics;
         const QPoint at(m.BxToScr(square.x) + dice.below(m.SquareWidthB()),
                         m.ByToScr(square.y) + dice.below(m.SquareHeightB()));
-        hand.click(&game, tell(game.pView->viewport()->mapTo(&game, at)), button);
+        hand.click(&game, tell(game.pView->viewport()->mapTo(&game, at)));
     }
     QWidget &keyboard() { return dialog != nullptr ? *static_cast<QWidget *>(dialog) : game; }
 
@@ -186,19 +154,16 @@ void User::act() {
     } all[] = {
         // The game, played on.
         {"play", 300, &G::waiting, &G::playMove},
-        {"Force Move", 25, &G::waiting, &G::clickForce},
-        {"BREAK", 120, &G::thinking, &G::clickBreak},
+        {"use a button", 50, &G::waiting, &G::clickPressable},
+        {"BREAK", 120, &G::thinking, &G::clickPressable},
         {"let it land", 300, &G::flying, &G::passTime},
-        {"go on", 300, &G::over, &G::goOn},
-        {"open the settings", 24, &G::free, &G::clickSettings},
+        {"go on", 300, &G::over, &G::clickPressable},
         // Anything, also behind a dialog.
         {"tap", 48, &G::atWindow, &G::tapAnySquare},
-        {"click", 18, &G::atWindow, &G::clickAnywhere},
-        {"click on a button", 90, &G::atWindow, &G::clickAnyButton},
-        {"double click", 15, &G::atWindow, &G::clickTwice},
+        {"click", 120, &G::atWindow, &G::click},
         {"press", 18, &G::atWindow, &G::press},
         {"drag", 200, &G::holding, &G::drag},
-        {"key", 30, &G::noList, &G::typeKey},
+        {"key", 30, &G::noList, &G::type},
         {"hold a key", 9, &G::noList, &G::holdKey},
         {"wait", 36, &G::noList, &G::passTime},
         // The window.
@@ -210,11 +175,10 @@ void User::act() {
         {"close", 2, &G::free, &G::close},
         // Dialogs and boxes, and the lists of choosers.
         {"wheel", 900, &G::inSettings, &G::turnWheel},
-        {"click in the dialog", 360, &G::inDialog, &G::clickInDialog},
-        {"click on its button", 300, &G::inDialog, &G::clickDialogButton},
+        {"click in the dialog", 180, &G::inDialog, &G::clickInDialog},
+        {"click a part of it", 500, &G::inDialog, &G::clickWidget},
         {"close the dialog", 90, &G::inDialog, &G::closeDialog},
         {"key in the list", 5, &G::inList, &G::typeInList},
-        {"click beside the list", 1, &G::inList, &G::clickBesideList},
     };
     Gestures gestures(*this);
     int weights = 0;

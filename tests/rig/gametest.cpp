@@ -124,16 +124,12 @@ QColor GameTest::squareColour(int x, int y) const {
 
 void GameTest::expectAgreement() const {
     const board &b = *game.pBoard;
-    const std::string squares =
-        drawing(b.size, [&b](int x, int y) { return letterOf(b.squares[x][y]); });
-    EXPECT_EQ(pixelsText(game), squares);
-    EXPECT_EQ(drawing(b.size,
-                      [this](int x, int y) {
-                          const DrCanvasPiece *piece = game.pieces[x][y];
-                          return letterOf(piece != nullptr ? piece->getType() : 0);
-                      }),
-              squares)
-        << "the sprites' pieces";
+    const auto sprite = [this](int x, int y) {
+        const DrCanvasPiece *piece = game.pieces[x][y];
+        return letterOf(piece != nullptr ? piece->getType() : 0);
+    };
+    EXPECT_EQ(shown(), position()) << "the pixels";
+    EXPECT_EQ(position().substr(2), drawing(b.size, sprite)) << "the sprites";
     int white = 0;
     int black = 0;
     b.countPieces(white, black);

@@ -80,9 +80,7 @@ protected:
     std::string request() const { return requestText(game); }
     std::string position() const { return picture(*game.pBoard); }
     // As position(), from the pixels; crossed out pieces are 'x'.
-    std::string shown() const {
-        return (game.pBoard->whiteToMove ? "w\n" : "b\n") + pixelsText(game);
-    }
+    std::string shown() const { return position().substr(0, 2) + pixelsText(game); }
     QColor squareColour(int x, int y) const;
     // Window, sprites, labels and position agree. Not in a flight.
     void expectAgreement() const;

@@ -5,21 +5,15 @@
 #include <QWheelEvent>
 #include <QWidget>
 
-namespace {
-
-constexpr int longPauseMs = 1000;
-constexpr int shortPauseMs = 10;
-
-} // namespace
+static constexpr int pauseMs = 1000; // so that two clicks are no double click
 
 void Hand::send(QEvent::Type type, QPoint at, Qt::MouseButtons down, Qt::MouseButton changed) {
-    now_ += shortPauseMs;
+    now_ += pauseMs;
     qt_handleMouseEvent(pressedOn_, at, pressedOn_->mapToGlobal(at), down, changed, type,
                         Qt::NoModifier, now_);
 }
 
 void Hand::press(const QWidget *window, QPoint at, Qt::MouseButton button) {
-    now_ += longPauseMs;
     pressedOn_ = window->windowHandle();
     held_ = button;
     send(QEvent::MouseButtonPress, at, button, button);
@@ -37,17 +31,7 @@ void Hand::release(QPoint at) {
 
 void Hand::click(const QWidget *window, QPoint at, Qt::MouseButton button) {
     press(window, at, button);
-    if (canRelease())
-        release(at);
-}
-
-void Hand::doubleClick(const QWidget *window, QPoint at, Qt::MouseButton button) {
-    click(window, at, button);
-    if (holds() || pressedOn_.isNull())
-        return;
-    held_ = button;
-    send(QEvent::MouseButtonPress, at, button, button);
-    if (canRelease())
+    if (holds())
         release(at);
 }
 
@@ -65,10 +49,7 @@ void Hand::type(const QWidget *window, Qt::Key key) {
     // What a window manager does when another window closes.
     if (QGuiApplication::focusWindow() != window->windowHandle())
         window->windowHandle()->requestActivate();
-    if (key < Qt::Key_Escape) // a letter, with its text
-        QTest::keyClick(window->windowHandle(), static_cast<char>(key));
-    else
-        QTest::keyClick(window->windowHandle(), key);
+    QTest::keyClick(window->windowHandle(), key);
 }
 
 void Hand::holdKey(const QWidget *window, Qt::Key key, int repeats) {

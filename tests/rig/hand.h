@@ -12,9 +12,8 @@ class QWidget;
 // example, behind a modal dialog. One mouse button at a time. Positions are in the window's pixels.
 class Hand {
 public:
-    bool holds() const { return held_ != Qt::NoButton; }
-    // What was pressed on is still there to release on.
-    bool canRelease() const { return holds() && !pressedOn_.isNull(); }
+    // A button is down, and what it was pressed on is still there to release on.
+    bool holds() const { return held_ != Qt::NoButton && !pressedOn_.isNull(); }
 
     void press(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     // Moves with the button down, over the window that it was pressed on.
@@ -23,8 +22,6 @@ public:
     // Forgets a button that is down: its window has gone.
     void drop() { held_ = Qt::NoButton; }
     void click(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
-    // Two clicks within the double click interval.
-    void doubleClick(const QWidget *window, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     // One step of the wheel, up or down, over a widget.
     static void turnWheel(QWidget *widget, bool up);
     // Into the window, which gets the keyboard's focus, if it is to be seen.

@@ -4,6 +4,7 @@
 #include "rules/legalmove.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
+#include "tests/support/drawnboard.h"
 #include "view/boardmetrics.h"
 #include "view/mycanvasview.h"
 
@@ -11,34 +12,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-
-char letterOf(int code) {
-    if ((code & codeTaken) != 0)
-        return 'x';
-    switch (code & codePiece) {
-    case 0:
-        return '.';
-    case whiteMan:
-        return 'w';
-    case whiteKing:
-        return 'W';
-    case blackMan:
-        return 'b';
-    case blackKing:
-        return 'B';
-    default:
-        return '?';
-    }
-}
-
-std::string drawing(int size, const std::function<char(int x, int y)> &letterAt) {
-    std::string rows;
-    for (int y = size - 1; y >= 0; --y, rows += '\n') {
-        for (int x = 0; x < size; ++x)
-            rows += letterAt(x, y);
-    }
-    return rows;
-}
 
 std::string controlsText(const OpenGame &game) {
     const QLabel &label = *game.lblThinking;
@@ -85,19 +58,21 @@ std::string pixelsText(const OpenGame &game) {
 
 std::string settingsText(const OpenGame &game) {
     const formsettings &dialog = *game.pSettings;
-    const QString text = QString("rules %1, size %2, level %3, players %4, give-away %5")
-                             .arg(dialog.cmbRules->currentIndex())
-                             .arg(dialog.cmbSize->currentIndex())
-                             .arg(dialog.cmbLevel->currentIndex())
-                             .arg(dialog.cmbPlayers->currentIndex())
-                             .arg(dialog.chGiveAway->isChecked());
-    const QString kept = QString("rules %1, size %2, level %3, players %4, give-away %5")
-                             .arg(dialog.rulesIndex)
-                             .arg(dialog.sizeIndex)
-                             .arg(dialog.levelIndex)
-                             .arg(dialog.cmbPlayers->currentIndex())
-                             .arg(dialog.giveAway);
-    return (kept == text ? text : text + "; kept: " + kept).toStdString();
+    const auto line = [&dialog](int rules, int size, int level, bool giveAway) {
+        const int players = dialog.cmbPlayers->currentIndex();
+        return QString("rules %1, size %2, level %3, players %4, give-away %5")
+            .arg(rules)
+            .arg(size)
+            .arg(level)
+            .arg(players)
+            .arg(giveAway)
+            .toStdString();
+    };
+    const std::string shown = line(dialog.cmbRules->currentIndex(), dialog.cmbSize->currentIndex(),
+                                   dialog.cmbLevel->currentIndex(), dialog.chGiveAway->isChecked());
+    const std::string kept =
+        line(dialog.rulesIndex, dialog.sizeIndex, dialog.levelIndex, dialog.giveAway);
+    return kept == shown ? shown : shown + "; kept: " + kept;
 }
 
 std::string requestText(const OpenGame &game) {

@@ -2,17 +2,10 @@
 #ifndef TESTS_RIG_WINDOWTEXT_H
 #define TESTS_RIG_WINDOWTEXT_H
 
-#include "rules/board.h"
 #include "tests/rig/opengame.h"
 #include "view/drcanvas.h"
 
-#include <functional>
 #include <string>
-
-// The letter of a piece: w and b men, W and B kings, x one being taken, '.' none.
-char letterOf(int code);
-// Rows from the top, one a line, of the letters that `letterAt` gives.
-std::string drawing(int size, const std::function<char(int x, int y)> &letterAt);
 
 // The state label in brackets, empty when it is hidden, the piece counts, and the names of the
 // buttons that can be pressed: "[Your Move] 20/20 About Force Settings NewGame".

@@ -24,14 +24,23 @@ board drawn(const std::string &picture) {
     return b;
 }
 
-std::string picture(const board &b) {
-    std::string text = b.whiteToMove ? "w\n" : "b\n";
-    for (int y = b.size - 1; y >= 0; --y) {
-        for (int x = 0; x < b.size; ++x)
-            text += letters[b.squares[x][y] & codePiece];
-        text += '\n';
+char letterOf(int code) {
+    const auto piece = static_cast<std::size_t>(code & codePiece);
+    return (code & codeTaken) != 0 ? 'x' : piece < letters.size() ? letters[piece] : '?';
+}
+
+std::string drawing(int size, const std::function<char(int x, int y)> &letterAt) {
+    std::string rows;
+    for (int y = size - 1; y >= 0; --y, rows += '\n') {
+        for (int x = 0; x < size; ++x)
+            rows += letterAt(x, y);
     }
-    return text;
+    return rows;
+}
+
+std::string picture(const board &b) {
+    return (b.whiteToMove ? "w\n" : "b\n") +
+           drawing(b.size, [&b](int x, int y) { return letterOf(b.squares[x][y]); });
 }
 
 std::string moveText(const LegalMove &m) {

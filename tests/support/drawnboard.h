@@ -6,6 +6,7 @@
 #include "rules/board.h"
 #include "rules/legalmove.h"
 
+#include <functional>
 #include <string>
 
 // A position from its drawing: the side to move ('w' or 'b'), then the rows from the top down, all
@@ -13,6 +14,10 @@
 // board's size, which becomes XY::B_SIZE as well. A piece on a light square fails the test.
 board drawn(const std::string &picture);
 
+// The letter of a square code: as above, 'x' a piece that is being taken.
+char letterOf(int code);
+// Rows from the top, one a line, of the letters that `letterAt` gives.
+std::string drawing(int size, const std::function<char(int x, int y)> &letterAt);
 // The drawing of a position, one row a line.
 std::string picture(const board &b);
 
