@@ -48,9 +48,10 @@ Monkey::~Monkey() {
 std::size_t Monkey::run() {
     openWindow();
     while (!journal_.isOver()) {
-        step();
-        if (!window_->isClosed())
+        if (!window_->isClosed()) {
+            step();
             continue;
+        }
         ++tally_["window closed"];
         if (dice_.oneIn(2)) {
             openWindow();
@@ -65,7 +66,6 @@ std::size_t Monkey::run() {
 
 // The first one, or one after another that was closed.
 void Monkey::openWindow() {
-    journal_.note("open a window");
     for (const QWidget *window : QApplication::topLevelWidgets()) {
         if (window->isVisible())
             journal_.fail("a window stays open: " + window->windowTitle().toStdString());
@@ -80,6 +80,7 @@ void Monkey::openWindow() {
 }
 
 void Monkey::show() {
+    journal_.note("show the window");
     searching_ = false;
     window_->show();
     window_->activateWindow();
