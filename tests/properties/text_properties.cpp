@@ -1,8 +1,6 @@
 // What is read as text: written positions and tables read back as the same, and what users give the
 // tools is either refused with a message or something that the tools can work with.
 
-#include "bits/bitposition.h"
-#include "bits/dispatch.h"
 #include "tests/properties/harness.h"
 #include "tests/support/enginerig.h"
 #include "tools/bench/benchrun.h"
@@ -88,24 +86,9 @@ void benchArguments(Bytes &bytes) {
     want(!tasksText(options, error).isEmpty() || !error.isEmpty(), "no tasks, no message", line);
 }
 
-void benchTasks(Bytes &bytes) {
-    const Bytes changes = takeChanges(bytes);
-    const std::string text = changed(describe(readSituation(bytes)), changes);
-    QString error;
-    for (const BenchTask &task : readTasks(QString::fromStdString(text), error)) {
-        const board &b = task.position;
-        bool good = false;
-        dispatchBits(defaultRules, b.size,
-                     [&](auto form) { good = BitPosition<form.squares>::representable(b); });
-        want(good, "a bad position was accepted", text);
-        want(b.plyCount >= 0, "a negative ply counter was accepted", text);
-        want(task.depth >= 1 && task.depth <= mostDepth, "a task's depth", text);
-    }
-}
-
 } // namespace
 
 std::span<const Property> properties() {
-    static constexpr Property all[] = {positionsReadBack, tablesReload, benchArguments, benchTasks};
+    static constexpr Property all[] = {positionsReadBack, tablesReload, benchArguments};
     return all;
 }

@@ -3,7 +3,6 @@
 // (10,10), so every sequence ends on (10,10), and what one leaves over are closed circuits. The
 // smallest has four jumps. With the piece on (9,9) gone the way ends on (8,8).
 
-#include "search/listingwatch.h"
 #include "tests/support/enginerig.h"
 
 #include <gtest/gtest.h>
@@ -51,17 +50,6 @@ TEST(CaptureLimit, TwentyFourJumpsAreAllowed) {
         rig.engine->FillMoveList();
         EXPECT_TRUE(rig.host.boxes.empty()) << c.title;
         EXPECT_EQ(longest(rig.engine->moveList), 24U) << c.title;
-    }
-}
-
-// One of thousands of moves.
-TEST(ListingWatch, AListingThatIsGivenUpEndsAtTheNextJump) {
-    for (const auto &c : limited) {
-        EngineRig rig(c.rules, lattice(c.piece));
-        ListingWatch watch([] { return false; });
-        rig.engine->listMoves(watch);
-        EXPECT_TRUE(watch.isGivenUp());
-        EXPECT_LT(rig.engine->moveList.count(), 4001) << "the first 4000 jumps";
     }
 }
 

@@ -1,8 +1,6 @@
-// What a game does not reach: the dumps, engines and boards that the bit sets cannot stand in for.
+// What a game does not reach: the dump of a tree.
 
-#include "search/deepsearch.h"
-#include "search/searchcontext.h"
-#include "tests/search/drawntree.h"
+#include "tests/support/enginerig.h"
 
 #include <QTextStream>
 
@@ -23,31 +21,6 @@ TEST(TreeDump, WritesEveryPositionDownToTheDepth) {
     EXPECT_EQ(rig.statistic.nodes, 1 + 9 + 81 + 658);
     EXPECT_EQ(rig.statistic.movesGenerated, 9 + 81 + 658 + 4265);
     EXPECT_EQ(rig.host.eventRounds, 5) << "at 91 inner positions, once in 21";
-}
-
-TEST(Trace, PrintsANodeWithItsMoves) {
-    DrawnTree tree("(30 -50)");
-    tree.engine->depth = 10;
-    const Score none(Score::none, -1);
-    testing::internal::CaptureStdout();
-    tree.engine->getBestMove(0, tree.score, none, none, tree.line, true);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "\n thisKey=\t 1048576 \tlevel=0\t Depth=10 < -1000777, 1000777 >\n"
-              "m=1/2\t tScore=0\t score=50\t \nm=0/2\t tScore=0\t score=-30\t \n");
-}
-
-TEST(DeepSearch, StandsInWhereBitSetsCan) {
-    const auto standsIn = [](EngineRig &rig) {
-        SearchContext context(rig.statistic);
-        return DeepSearch::make(*rig.engine, context) != nullptr;
-    };
-    EngineRig rig(RuleSet::Polish, board(6));
-    EXPECT_TRUE(standsIn(rig));
-    rig.position.squares[0][0] |= codeTaken;
-    EXPECT_FALSE(standsIn(rig)) << "a piece being taken";
-    EngineRig small(RuleSet::American, board(4));
-    EXPECT_FALSE(standsIn(small)) << "no such size";
-    EXPECT_NE(small.search(), "none") << "the engines play it all the same";
 }
 
 } // namespace

@@ -8,17 +8,6 @@
 
 namespace {
 
-// Seconds to think, or 0 for a depth.
-constexpr int byDepth = 0, timed = 5, unlimited = thinkStatistic::unlimitedSeconds;
-constexpr int allModes[] = {byDepth, timed, unlimited};
-
-void request(EngineRig &rig, int mode, int plies = 6) {
-    if (mode == byDepth)
-        rig.statistic.setReqDepth(plies);
-    else
-        rig.statistic.setReqTime(mode);
-}
-
 constexpr char manAlone[] = "w ...... ...... ...... ..w... ...... ......";
 
 // A win found, a single move, which loses the last man, and no move.
@@ -27,26 +16,24 @@ TEST(Drivers, NothingIsDeepenedWhenAllIsClear) {
         const char *name, *picture;
         bool giveAway;
         const char *move;
-        int score, depth, timedDepth;
+        int score, depth;
     } cases[] = {
-        {"won", manAlone, false, "(2,2)-(3,3)", 999999, 1, 3},
-        {"lost by giving away", manAlone, true, "(2,2)-(3,3)", -999999, 1, 3},
+        {"won", manAlone, false, "(2,2)-(3,3)", 999999, 3},
+        {"lost by giving away", manAlone, true, "(2,2)-(3,3)", -999999, 3},
         {"one move", "w ...... ..b... ...... w..... ...... ......", false, "(0,2)-(1,3)", -999998,
-         1, 2},
-        {"no move", "w ...... ..b... .b.... w..... ...... ......", false, "none", -1000000, 0, 0}};
+         2},
+        {"no move", "w ...... ..b... .b.... w..... ...... ......", false, "none", -1000000, 0}};
     for (const auto &c : cases) {
-        for (const int mode : allModes) {
-            EngineRig rig(RuleSet::American, c.picture);
-            rig.host.msPerReading = 10;
-            AbstractEngine::breakThinking = true; // left over from another search
-            rig.statistic.giveAway = c.giveAway;
-            request(rig, mode);
-            EXPECT_EQ(rig.search(), c.move) << c.name;
-            EXPECT_EQ(rig.score.value, c.score) << c.name;
-            EXPECT_EQ(rig.score.depth, mode == byDepth ? c.depth : c.timedDepth) << c.name;
-            EXPECT_EQ(rig.position.hashScore, rig.score.value) << c.name;
-            EXPECT_EQ(rig.host.beeps, 1) << c.name;
-        }
+        EngineRig rig(RuleSet::American, c.picture);
+        rig.host.msPerReading = 10;
+        AbstractEngine::breakThinking = true; // left over from another search
+        rig.statistic.giveAway = c.giveAway;
+        rig.statistic.setReqTime(5);
+        EXPECT_EQ(rig.search(), c.move) << c.name;
+        EXPECT_EQ(rig.score.value, c.score) << c.name;
+        EXPECT_EQ(rig.score.depth, c.depth) << c.name;
+        EXPECT_EQ(rig.position.hashScore, rig.score.value) << c.name;
+        EXPECT_EQ(rig.host.beeps, 1) << c.name;
     }
 }
 
@@ -64,37 +51,31 @@ TEST(Drivers, ASearchFillsTheSquareValuesAnew) {
 }
 
 TEST(Drivers, BreakInTheFirstIterationPlaysTheFirstMove) {
-    for (const int mode : allModes) {
-        EngineRig rig(RuleSet::International, board(10));
-        rig.host.onEvents = [] { AbstractEngine::breakThinking = true; };
-        request(rig, mode);
-        EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
-        EXPECT_EQ(rig.score.value, Score::lost);
-        EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
-    }
+    EngineRig rig(RuleSet::International, board(10));
+    rig.host.onEvents = [] { AbstractEngine::breakThinking = true; };
+    rig.statistic.setReqTime(5);
+    EXPECT_EQ(rig.search(), "(1,3)-(0,4)");
+    EXPECT_EQ(rig.score.value, Score::lost);
+    EXPECT_EQ(rig.host.eventRounds, 1) << "the very first node processes events";
 }
 
 TEST(Drivers, BreakLaterPlaysTheLastCompletedIteration) {
-    for (const int mode : allModes) {
-        EngineRig whole(RuleSet::International, board(10));
-        request(whole, mode == byDepth ? byDepth : timed, 3);
-        whole.host.msPerReading = 6000; // beyond the budget: the first iteration is the last
-        const std::string move = whole.search();
-        EXPECT_EQ(whole.engine->depth, 30);
-        EngineRig broken(RuleSet::International, board(10));
-        request(broken, mode, 8);
-        broken.host.onEvents = [&] {
-            AbstractEngine::breakThinking = broken.statistic.nodes > whole.statistic.nodes;
-        };
-        EXPECT_EQ(broken.search(), move);
-        EXPECT_EQ(broken.score.value, whole.score.value);
-        EXPECT_FALSE(AbstractEngine::breakThinking);
-    }
+    EngineRig whole(RuleSet::International, board(10));
+    whole.statistic.setReqDepth(3);
+    const std::string move = whole.search();
+    EngineRig broken(RuleSet::International, board(10));
+    broken.statistic.setReqDepth(8);
+    broken.host.onEvents = [&] {
+        AbstractEngine::breakThinking = broken.statistic.nodes > whole.statistic.nodes;
+    };
+    EXPECT_EQ(broken.search(), move);
+    EXPECT_EQ(broken.score.value, whole.score.value);
+    EXPECT_FALSE(AbstractEngine::breakThinking);
 }
 
 TEST(Drivers, EventsAreProcessedOnceIn201Nodes) {
     EngineRig rig(RuleSet::International, board(10));
-    request(rig, byDepth);
+    rig.statistic.setReqDepth(6);
     rig.host.onEvents = [&] {
         EXPECT_EQ(rig.statistic.nodes, 2 + 201 * (rig.host.eventRounds - 1)) << "up to date";
     };
@@ -108,7 +89,7 @@ TEST(Drivers, LongListingsProcessEventsAndGiveUp) {
     EngineRig rig(RuleSet::International,
                   "w ...........B B.........b. .w.w.w.w.w.. ............ .w.w.w.w.w.. ............ "
                   ".w.w...w.w.. ............ .w.w.w.w.w.. ............ .w.w.w.w.w.. B.........B.");
-    request(rig, unlimited);
+    rig.statistic.setReqTime(thinkStatistic::unlimitedSeconds);
     rig.host.onEvents = [&] { AbstractEngine::breakThinking = rig.host.eventRounds >= 20; };
     rig.search();
     EXPECT_LT(rig.statistic.nodes, 2 + 201 * 19) << "there were events in listings, too";
@@ -121,7 +102,7 @@ TEST(Drivers, AClearFavouriteEndsATimedSearchAfterAPause) {
     EngineRig rig(RuleSet::American,
                   "w .......... ........B. .......... ......B... .......... ..B.B..... ...W...... "
                   ".......... .......... ..........");
-    request(rig, unlimited);
+    rig.statistic.setReqTime(thinkStatistic::unlimitedSeconds);
     EXPECT_EQ(rig.search(), "(3,3)x(5,5)x(7,7)x(9,9)");
     EXPECT_EQ(rig.engine->depth, 50);
     EXPECT_EQ(rig.host.beeps, 2);
@@ -147,19 +128,15 @@ TEST(TimeControl, WhatOneMoveSavesTheNextMaySpend) {
 
 // Each side has exactly one move, for ever: the levels 0 to 100 are one node each.
 TEST(Drivers, EndlessSingleMovesStopAtTheLevelLimit) {
-    for (const int mode : allModes) {
-        EngineRig rig(RuleSet::International,
-                      "w .b.b.b.b.b b.b.b.b.b. .b.w.b.w.b w.w.b.w.w. ...b.b.w.B "
-                      "W.b.w.w... .b.b.w.b.b w.b.w.b.w. .w.w.w.w.w w.w.w.w.w.");
-        if (mode == timed)
-            rig.leaveOutBits();
-        request(rig, mode, 8);
-        EXPECT_NE(rig.search(), "none");
-        EXPECT_EQ(rig.statistic.nodes, 1 + 101 * (mode == byDepth ? 8 : 1));
-        EXPECT_EQ(rig.statistic.maxLevel, 100);
-        const std::string line = rig.lineText();
-        EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 30);
-    }
+    EngineRig rig(RuleSet::International,
+                  "w .b.b.b.b.b b.b.b.b.b. .b.w.b.w.b w.w.b.w.w. ...b.b.w.B "
+                  "W.b.w.w... .b.b.w.b.b w.b.w.b.w. .w.w.w.w.w w.w.w.w.w.");
+    rig.statistic.setReqDepth(8);
+    EXPECT_NE(rig.search(), "none");
+    EXPECT_EQ(rig.statistic.nodes, 1 + 101 * 8);
+    EXPECT_EQ(rig.statistic.maxLevel, 100);
+    const std::string line = rig.lineText();
+    EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 30);
 }
 
 } // namespace

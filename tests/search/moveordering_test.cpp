@@ -24,11 +24,8 @@ TEST(MoveOrdering, SortOrder) {
     const struct {
         Scores scores;
         const char *sorted;
-    } cases[] = {{{0, 0, 0, 0, 0}, "aedcb"},
-                 {{2, 1, 2, 1}, "bdca"},
-                 {{3, -1, 4, none, 9}, "dbace"},
-                 {{2, 1}, "ba"},
-                 {{1, 2, 3}, "abc"}};
+    } cases[] = {
+        {{0, 0, 0, 0, 0}, "aedcb"}, {{2, 1, 2, 1}, "bdca"}, {{3, -1, 4, none, 9}, "dbace"}};
     for (const auto &c : cases) {
         QValueList<LegalMove> list = moves(c.scores);
         sortByScore(list);
@@ -44,8 +41,7 @@ TEST(MoveOrdering, Reductions) {
         Scores sorted, reductions;
     } cases[] = {{{none, -300, 0, 100, 160}, {5, 7, 2, 1, 0}},
                  {{-1000000, -999999, -999950}, {0, 0, 0}},
-                 {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}},
-                 {{none, none}, {5, 5}}};
+                 {{-1000, -501, -500, -60, -59, 0}, {8, 4, 8, 1, 0, 0}}};
     for (const auto &c : cases) {
         QValueList<LegalMove> list = moves(c.sorted);
         AbstractEngine::depthUpdate(&list);

@@ -8,36 +8,8 @@ namespace {
 
 constexpr int none = Score::none;
 
-// Values of replies are as the other side sees them.
-TEST(Nodes, TheMoveThatLeavesTheOtherSideLeastIsChosen) {
-    const struct {
-        const char *name, *tree, *best;
-        int value;
-    } cases[] = {{"the least", "(30 -50 40)", "b", 50},
-                 {"of equal moves the one searched first", "(-40 -40 0)", "b", 40 + 7},
-                 {"14 points more for three as good", "(-10 -10 -10)", "c", 10 + 14},
-                 {"none for a choice of two", "(-10 -10)", "b", 10}};
-    for (const auto &c : cases) {
-        DrawnTree tree(c.tree);
-        EXPECT_EQ(tree.searchNode(1), c.best) << c.name;
-        EXPECT_EQ(tree.score.value, c.value) << c.name;
-    }
-}
-
-TEST(Nodes, SeveralGoodMovesCountAtTheHorizonOnly) {
-    DrawnTree tree("(-10 -10 -10)");
-    tree.searchNode(2);
-    EXPECT_EQ(tree.score.value, 10 - 14) << "black's, below each of white's moves";
-}
-
-TEST(Nodes, GivingAwayTurnsValuesRound) {
-    DrawnTree tree("(-100 0 50)");
-    tree.statistic.giveAway = true;
-    EXPECT_EQ(tree.searchNode(1), "c");
-    EXPECT_EQ(tree.score.value, 50);
-}
-
-// Without a best move the node was valued as it stands. The parent is sure of `beta`.
+// Values of replies are as the other side sees them. Without a best move the node was valued as it
+// stands. The parent is sure of `beta`.
 TEST(Nodes, WhereTheSearchStops) {
     const struct {
         const char *name, *tree;
@@ -102,12 +74,6 @@ TEST(CutOffs, OnAMoveTooGood) {
         EXPECT_EQ(tree.statistic.cutoffs, c.cutoffs) << c.name;
         EXPECT_EQ(tree.table.count, c.stored) << c.name;
     }
-}
-
-TEST(CutOffs, MovesNotSearchedAnyMoreHaveNoScore) {
-    DrawnTree tree("(0 -50 0)");
-    tree.searchNode(2, 1, none, -50);
-    EXPECT_EQ(tree.move('a').score, none);
 }
 
 TEST(Iterations, ADecidedMoveKeepsItsValueAndIsNotSearchedAgain) {

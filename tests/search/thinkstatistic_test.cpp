@@ -1,6 +1,5 @@
 #include "search/thinkstatistic.h"
 
-#include "search/score.h"
 #include "tests/support/recordinghost.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +13,7 @@ struct Thinking : thinkStatistic {
     RecordingHost host;
     qint64 started = host.now;
 
-    explicit Thinking(int seconds = 5, int credit = 0) {
+    Thinking(int seconds, int credit) {
         setReqTime(seconds);
         timeCredit = credit;
         clear();
@@ -24,19 +23,6 @@ struct Thinking : thinkStatistic {
         return canTry(moves);
     }
 };
-
-TEST(ThinkStatistic, EstimatesOfTheNextIteration) {
-    constexpr struct {
-        int last, previous, moves, estimate;
-    } cases[] = {{150, 0, 10, 1050},   {900, 150, 10, 5364}, {900, 150, 2, 1800},
-                 {900, 899, 20, 1800}, {0, 0, 10, 0},        {INT_MAX, 0, 100, INT_MAX}};
-    for (const auto &c : cases) {
-        Thinking t;
-        t.lastIterationMs = c.last;
-        t.prevIterationMs = c.previous;
-        EXPECT_EQ(t.Estimate(c.moves), c.estimate) << c.last << " after " << c.previous;
-    }
-}
 
 // With two moves the next iteration is taken to end at twice the clock reading.
 TEST(ThinkStatistic, Budgets) {
@@ -65,28 +51,6 @@ TEST(ThinkStatistic, TheEndOfAMove) {
         t.stop(c.moves);
         EXPECT_EQ(t.timeCredit, c.creditAfter) << c.usedMs << " of " << c.seconds << " s";
     }
-}
-
-TEST(ThinkStatistic, WithoutLimitThereIsAlwaysTime) {
-    Thinking t(thinkStatistic::unlimitedSeconds, INT_MIN);
-    EXPECT_TRUE(t.canTryAt(1000000000, 2));
-}
-
-TEST(ThinkStatistic, ADepthTakesThePlaceOfTheTimeAndItsCredit) {
-    Thinking t(5, 3000);
-    t.setReqDepth(0);
-    EXPECT_EQ(t.getReqTime(), 5) << "no depth: the request stays";
-    EXPECT_EQ(t.timeCredit, 3000);
-    t.setReqDepth(1);
-    EXPECT_EQ(t.getReqTime(), -1);
-    EXPECT_EQ(t.timeCredit, 0);
-}
-
-TEST(Score, DecidedScores) {
-    for (const int value : {1000777, -1000777, 999900, -999900, 0})
-        EXPECT_FALSE(Score(value, 0).aroundGameOver()) << value;
-    for (const int value : {999901, -999901, -1000000, 1000778, -1000776})
-        EXPECT_TRUE(Score(value, 0).aroundGameOver()) << value;
 }
 
 } // namespace
