@@ -279,12 +279,10 @@ std::string GameModel::requestText() const {
            (choices.giveAway ? ", give-away" : "");
 }
 
-std::string GameModel::historyText(bool thorough) const {
+std::string GameModel::historyText() const {
     std::ostringstream text;
     text << std::hex << history[cursor].HKey() << (cursor > 0 ? " back" : "")
          << (cursor + 1 < history.size() ? " forward" : "");
-    for (std::size_t i = 0; thorough && i < history.size(); ++i)
-        text << ' ' << history[i].HKey();
     return text.str();
 }
 
@@ -315,13 +313,12 @@ Snapshot GameModel::snapshot(bool thorough) const {
         {"next squares", inOrder(nextMarks)},
         {"path", inOrder(pathMarks)},
         {"computer plays", computersText(whiteComputer, blackComputer)},
-        {"history", historyText(thorough)},
+        {"history", historyText()},
         {"request", requestText()},
         {"controls", controlsText()},
         {"pointer", phase == Phase::Thinking ? "forbidden" : "arrow"},
         {"open", openText()},
         {"settings", open == Open::Settings ? "settings\n" : choices.text()},
-        {"layout", layoutInOrder},
     };
     if (thorough && !flight.has_value())
         all.emplace_back("pixels", picture(b).substr(2));

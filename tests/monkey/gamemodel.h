@@ -89,7 +89,7 @@ private:
     std::string phaseText() const;
     std::string controlsText() const;
     std::string requestText() const;
-    std::string historyText(bool thorough) const;
+    std::string historyText() const;
     std::string openText() const;
 
     std::vector<XY> pathMarks; // the path of the last move, as long as it is marked

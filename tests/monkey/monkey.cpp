@@ -26,17 +26,12 @@ constexpr int msPerRound = 300; // so a search of a minute takes a few thousand 
 constexpr int roundsBetweenEvents = 24;
 constexpr int veryManyRounds = 400;
 constexpr int checksBetweenThoroughOnes = 64;
-constexpr int applicationPoints = 9;
 
 } // namespace
 
 Monkey::Monkey(unsigned seed, int events, bool trace, Tally &tally)
     : dice_(seed), journal_(seed, events, trace), tally_(tally), user_(*this, dice_),
       previous_(setHost(this)) {
-    QFont font = QApplication::font();
-    font.setPointSize(applicationPoints);
-    font.setBold(false);
-    QApplication::setFont(font);
     AbstractEngine::eventLoop = 0;
     qApp->installEventFilter(this);
 }

@@ -63,20 +63,10 @@ std::string poolText(const OpenGame &game) {
     return std::to_string(hidden) + " hidden of " + std::to_string(all.size());
 }
 
-std::string historyText(gameHist &history, bool thorough) {
+std::string historyText(gameHist &history) {
     std::ostringstream text;
     text << std::hex << history.getBoard()->HKey() << (history.canPrev() ? " back" : "")
          << (history.canFwd() ? " forward" : "");
-    if (!thorough)
-        return text.str();
-    int back = 0;
-    while (history.prev())
-        ++back;
-    int last = 0;
-    for (text << ' ' << history.getBoard()->HKey(); history.next(); ++last)
-        text << ' ' << history.getBoard()->HKey();
-    while (last-- > back)
-        history.prev();
     return text.str();
 }
 
@@ -94,17 +84,6 @@ std::string openText(const OpenGame &game) {
     }
     text += game.pSettings->isVisible() ? "settings\n" : "";
     return text + (game.pAbout->isVisible() ? "about\n" : "");
-}
-
-std::string layoutText(const OpenGame &game) {
-    std::ostringstream text;
-    for (const QPushButton *button : {game.btnPrev, game.btnFwd, game.btnAbout, game.btnBreak,
-                                      game.btnForce, game.btnSettings, game.btnNewGame})
-        text << button->font().pointSize() << ' ';
-    const QWidget &view = *game.pView;
-    text << "points" << (game.lblThinking->font().bold() ? ", bold" : "") << ", board at "
-         << view.x() - (game.width() - view.width()) / 2 << ',' << view.y();
-    return text.str();
 }
 
 } // namespace
@@ -147,13 +126,12 @@ Snapshot snapshotOf(OpenGame &game, bool thorough) {
         {"next squares", markedText(game, MarkNext)},
         {"path", markedText(game, MarkPath)},
         {"computer plays", computersText(game.whiteComputer != 0, game.blackComputer != 0)},
-        {"history", historyText(*game.pHist, thorough)},
+        {"history", historyText(*game.pHist)},
         {"request", requestText(game)},
         {"controls", controlsText(game)},
         {"pointer", game.pView->cursor().shape() == Qt::ForbiddenCursor ? "forbidden" : "arrow"},
         {"open", dialogs},
         {"settings", dialogs == "settings\n" ? dialogs : settingsText(game)},
-        {"layout", layoutText(game)},
     };
     if (thorough && !game.flies())
         all.emplace_back("pixels", pixelsText(game));

@@ -12,7 +12,7 @@
 // Headings, the same ones for window and model, and what there is to say under each.
 using Snapshot = std::vector<std::pair<std::string, std::string>>;
 
-// The window's. The thorough one also has the pixels, where nothing flies, and the whole history.
+// The window's. The thorough one also has the pixels, where nothing flies.
 // Of a window that was closed there is the position only, which has to stay.
 Snapshot snapshotOf(OpenGame &game, bool thorough);
 
@@ -26,8 +26,5 @@ inline std::string computersText(bool white, bool black) {
 
 // What differs, the model's before the window's; empty when nothing does.
 std::string difference(const Snapshot &model, const Snapshot &window);
-
-// How the window must be laid out, whatever happens.
-inline constexpr const char *layoutInOrder = "8 9 8 8 8 8 8 points, bold, board at 0,0";
 
 #endif

@@ -83,13 +83,6 @@ struct User::Gestures {
     void resize() {
         game.resize(game.width(), tell(dice.between(game.minimumHeight(), game.maximumHeight())));
     }
-    void changeFont() {
-        QFont font = QApplication::font();
-        font.setPointSize(tell(dice.between(6, 20)));
-        font.setBold(dice.oneIn(2));
-        QApplication::setFont(font);
-    }
-    void hide() { game.hide(); }
     void minimise() { game.showMinimized(); }
     void show() {
         game.showNormal();
@@ -168,9 +161,7 @@ void User::act() {
         {"wait", 36, &G::noList, &G::passTime},
         // The window.
         {"resize", 9, &G::atWindow, &G::resize},
-        {"font", 3, &G::noList, &G::changeFont},
-        {"hide", 3, &G::free, &G::hide},
-        {"minimise", 3, &G::atWindow, &G::minimise},
+        {"minimise", 6, &G::atWindow, &G::minimise},
         {"show", 150, &G::isAway, &G::show},
         {"close", 2, &G::free, &G::close},
         // Dialogs and boxes, and the lists of choosers.
