@@ -21,29 +21,6 @@ TEST_F(GameTest, EscapeHeldDownIsOneBreak) {
     EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), humanComputer);
 }
 
-// As slow as a person's: the press comes in one flight and the release in the next.
-TEST_F(GameTest, BreakHeldWhileAPieceLandsCounts) {
-    place(startOfTen, computers);
-    const QPoint at = game.btnBreak->geometry().center();
-    hand.press(&game, at);
-    land();
-    hand.release(at);
-    EXPECT_EQ(game.pSettings->cmbPlayers->currentIndex(), humanComputer);
-}
-
-TEST_F(GameTest, NewGameForgetsTheTimeSavedOnceItIsConfirmed) {
-    place(startOfTen);
-    taps("53 44");
-    land();
-    game.pStat->timeCredit = 5000;
-    for (const bool confirmed : {false, true}) {
-        host.answer = confirmed;
-        press(game.btnNewGame);
-        EXPECT_EQ(boxes(), newGameBox);
-        EXPECT_EQ(game.pStat->timeCredit, confirmed ? 0 : 5000);
-    }
-}
-
 // Closing, as the window's close button does it, at the worst moments: the event loop ends with
 // status 0, and the game stays as it was.
 class ClosingTest : public GameTest {
@@ -96,27 +73,4 @@ TEST_F(ClosingTest, WithAQuestionOpen) {
         press(game.btnNewGame);
         setHost(&host);
     });
-}
-
-TEST_F(GameTest, ConfirmingANewGameAfterClosingChangesNothing) {
-    place(startOfTen);
-    taps("53 44");
-    land();
-    host.onBox = [this] { game.close(); };
-    press(game.btnNewGame);
-    EXPECT_EQ(boxes(), newGameBox);
-    EXPECT_EQ(game.pBoard->plyCount, 1);
-}
-
-// Where the program outlives its window.
-TEST_F(GameTest, ChoicesThatNobodyAcceptedAreForgottenInAReopenedWindow) {
-    const std::string before = settingsText(game);
-    const auto reopen = [this] {
-        Hand::turnWheel(game.pSettings->cmbRules, false);
-        game.close();
-        game.show();
-    };
-    whileOpen(
-        game.pSettings.get(), [this] { press(game.btnSettings); }, reopen);
-    EXPECT_EQ(settingsText(game), before);
 }

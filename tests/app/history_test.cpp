@@ -9,8 +9,10 @@ TEST_F(GameTest, NewGameAtTheFirstPositionAsksNothing) {
     taps("53 44");
     land();
     press(game.btnPrev);
+    game.pStat->timeCredit = 5000;
     press(game.btnNewGame);
     EXPECT_EQ(boxes(), "");
+    EXPECT_EQ(game.pStat->timeCredit, 0) << "the time saved is forgotten";
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
 }
 

@@ -59,13 +59,3 @@ TEST_F(InterruptionTest, HandOverInAFlightWaitsForItsEnd) {
     EXPECT_EQ(status(), playersTurn);
     expectAgreement();
 }
-
-TEST_F(InterruptionTest, ReopenedDuringItsLastSearchItSearchesAgain) {
-    search([this] {
-        game.close();
-        game.show();
-    });
-    ASSERT_TRUE(QTest::qWaitFor([this] { return game.flies(); }));
-    land();
-    EXPECT_EQ(status(), playersTurn);
-}

@@ -6,18 +6,6 @@
 
 #include <climits>
 
-TEST_F(GameTest, SpritesAreReusedUntilTheBoardChanges) {
-    const DrCanvasPiece *piece = game.pieces[0][0];
-    game.trashPiece(0, 0);
-    EXPECT_FALSE(piece->visible());
-    game.trashAllPieces();
-    EXPECT_EQ(game.trash.front(), piece);
-    piece = game.trash.back();
-    EXPECT_EQ(game.fromTrash(), piece);
-    game.setBSize(eightSquares);
-    EXPECT_TRUE(game.trash.empty());
-}
-
 TEST_F(GameTest, SpritesOutOfStepAreReported) {
     const std::string hiddenBox = "warning: Draughts::testPieces: visible==captured [Ok]\n";
     const std::string misplacedBox =
@@ -84,14 +72,6 @@ TEST_F(GameTest, SquaresAreEmptiedAndOthersAreNotEdited) {
     board expected = drawn(startOfTen);
     expected.squares[0][0] = 0;
     EXPECT_EQ(shown(), picture(expected));
-}
-
-TEST_F(GameTest, ThePathOfTheMoveIsMarked) {
-    game.markLastMove();
-    EXPECT_EQ(marked(MarkPath), "");
-    taps("53 44");
-    game.markLastMove();
-    EXPECT_EQ(marked(MarkPath), "(4,4) (5,3)") << "although it has not flown yet";
 }
 
 TEST_F(GameTest, OwnersOfTheSquaresAreShown) {

@@ -31,31 +31,23 @@ protected:
         game.setLevel(infinite);
         place(GetParam(), humans);
     }
-    void expectTheEndAfter(const std::function<void()> &act) {
-        int rounds = 0;
-        int nodes = 0;
-        duringSearch([&] {
-            rounds = host.eventRounds;
-            nodes = game.pStat->nodes;
-            act();
-        });
-        press(game.btnForce);
-        EXPECT_GT(nodes, 0) << "it has not been asked to end";
-        EXPECT_LE(host.eventRounds - rounds, 1);
-        EXPECT_LE(game.pStat->nodes - nodes, 1);
-    }
 };
 
 } // namespace
 
 TEST_P(ResponseTest, BreakEndsTheSearchAtOnce) {
-    expectTheEndAfter([this] { press(game.btnBreak); });
+    int rounds = 0;
+    int nodes = 0;
+    duringSearch([&] {
+        rounds = host.eventRounds;
+        nodes = game.pStat->nodes;
+        press(game.btnBreak);
+    });
+    press(game.btnForce);
+    EXPECT_GT(nodes, 0) << "it has not been asked to end";
+    EXPECT_LE(host.eventRounds - rounds, 1);
+    EXPECT_LE(game.pStat->nodes - nodes, 1);
     EXPECT_TRUE(game.flies());
-}
-
-TEST_P(ResponseTest, ClosingEndsTheSearchAtOnce) {
-    expectTheEndAfter([this] { game.close(); });
-    EXPECT_FALSE(game.flies());
 }
 
 // Long listings of captures ask for events by themselves: else a hundred rounds would take minutes
@@ -77,33 +69,27 @@ TEST_P(ResponseTest, EventsAreProcessedEveryFewNodesAndJumps) {
     }
 }
 
-// Boxes and events are those of the program. The delays reach from the first moments of a search,
-// with all that it sets up, to where its tree is large.
+// Boxes and events are those of the program. The search goes on until its tree is large.
 TEST_P(ResponseTest, DISABLED_RepaintsIn50MsAndEndsIn100) {
     GuiHost realHost;
     setHost(&realHost);
-    for (const int delayMs : {0, 3, 40, 250, 1300, 3000}) {
-        SCOPED_TRACE(testing::Message() << delayMs << " ms after the search has begun");
-        place(GetParam(), humans);
-        qint64 longestMs = 0;
-        QElapsedTimer sincePaint, sinceBreak;
-        QTimer paint;
-        QObject::connect(&paint, &QTimer::timeout, &game, [&] {
-            game.pView->viewport()->repaint();
-            longestMs = std::max(longestMs, sincePaint.restart() - 10);
-        });
-        QTimer::singleShot(delayMs, Qt::PreciseTimer, &game, [&] {
-            sinceBreak.start();
-            press(game.btnBreak);
-        });
-        sincePaint.start();
-        paint.setTimerType(Qt::PreciseTimer);
-        paint.start(10);
-        press(game.btnForce);
-        EXPECT_LE(sinceBreak.elapsed(), 100);
-        EXPECT_LE(longestMs, 50);
-        land();
-    }
+    qint64 longestMs = 0;
+    QElapsedTimer sincePaint, sinceBreak;
+    QTimer paint;
+    QObject::connect(&paint, &QTimer::timeout, &game, [&] {
+        game.pView->viewport()->repaint();
+        longestMs = std::max(longestMs, sincePaint.restart() - 10);
+    });
+    QTimer::singleShot(3000, Qt::PreciseTimer, &game, [&] {
+        sinceBreak.start();
+        press(game.btnBreak);
+    });
+    sincePaint.start();
+    paint.setTimerType(Qt::PreciseTimer);
+    paint.start(10);
+    press(game.btnForce);
+    EXPECT_LE(sinceBreak.elapsed(), 100);
+    EXPECT_LE(longestMs, 50);
     setHost(&host);
 }
 

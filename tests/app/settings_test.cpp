@@ -42,30 +42,3 @@ TEST_F(GameTest, IndicesThatAreNoItemsAreReportedAndReplaced) {
         EXPECT_EQ(request(), "IntEngine, 5 s, noise 1");
     }
 }
-
-TEST_F(GameTest, LevelsAskForWhatTheirNamesSay) {
-    const char *const requests[] = {
-        "IntEngine, depth 1, noise 1000", "IntEngine, depth 2, noise 400",
-        "IntEngine, 2 s, noise 5",        "IntEngine, 5 s, noise 5",
-        "IntEngine, 10 s, noise 5",       "IntEngine, 20 s, noise 5",
-        "IntEngine, 60 s, noise 5",       "IntEngine, 99999999 s, noise 5"};
-    for (int item = infinite; item >= easy1; --item) {
-        game.setLevel(item);
-        EXPECT_EQ(request(), requests[item]);
-    }
-}
-
-TEST_F(GameTest, EveryRuleSetPlaysItselfOnEveryBoard) {
-    for (const int rules : {polish, american, international}) {
-        for (const int size : {twelveSquares, tenSquares, eightSquares, sixSquares}) {
-            SCOPED_TRACE(testing::Message() << "rules " << rules << ", size " << size);
-            accept({.rules = rules, .size = size, .players = computers});
-            land(6);
-            press(game.btnBreak); // the computer plays once more, then the game is the player's
-            land(2);
-            expectAgreement();
-            press(game.btnNewGame);
-            EXPECT_EQ(boxes(), newGameBox);
-        }
-    }
-}

@@ -1,28 +1,8 @@
-// The turns of a game: taps, flights, answers, the end.
+// The turns of a game: flights and answers.
 
 #include "tests/rig/gametest.h"
 
 #include <QTimer>
-
-// The longest capture, entered square by square, ends with a crown, and Black has one answer.
-TEST_F(GameTest, ACaptureIsEnteredFlownAndAnswered) {
-    game.setBSize(sixSquares);
-    place("w ...... ....b. .b.... w.b... .w.... ......", humanComputer);
-    EXPECT_EQ(status(), "[You Must Capture] 2/3 About Force Settings NewGame");
-    taps("02 24");
-    EXPECT_EQ(marked(MarkNext), "") << "a capture of one";
-    tap(1, 1);
-    EXPECT_EQ(marked(MarkNext), "(3,3)");
-    tap(3, 3);
-    EXPECT_EQ(marked(MarkNext), "(5,5)");
-    tap(5, 5);
-    EXPECT_EQ(shown(), "b\n......\n....x.\n.b....\nw.x...\n.w....\n......\n");
-    land(2);
-    EXPECT_EQ(shown(), "w\n.....W\n......\n......\nw.b...\n......\n......\n");
-    EXPECT_EQ(status(), "[You Must Capture] 2/1 Prev About Force Settings NewGame");
-    EXPECT_EQ(marked(MarkPath), "(1,3) (2,2)");
-    expectAgreement();
-}
 
 // The canvas's own timer brings the man home and the computer answers.
 TEST_F(GameTest, MovesFlyByTheCanvassTimer) {
@@ -51,18 +31,6 @@ TEST_F(GameTest, ThePieceThatFliesIsAboveTheOthers) {
         game.pCanvas->advance();
     EXPECT_EQ(shown(), picture(drawn("b .....b ...... ...... ..w... ...... ......")));
     land();
-}
-
-// Black's man can only take backwards, which Americans do not.
-TEST_F(GameTest, AGameThatIsOverGoesOnByOtherRules) {
-    accept({.rules = american, .size = sixSquares});
-    place("b ...... ...... .w.... b..... .w.... ..w...");
-    EXPECT_EQ(boxes(), gameOverBox);
-    tap(0, 2);
-    press(game.btnForce);
-    EXPECT_EQ(status(), "[Game Over] 3/1 About Settings NewGame");
-    accept({.rules = international});
-    EXPECT_EQ(status(), "[You Must Capture] 3/1 About Force Settings NewGame");
 }
 
 // What the search takes for the horizon counts from the ply that the game has reached.

@@ -95,11 +95,7 @@ TEST(Boxes, HaveTheIconAndTheButtonsOfTheirKind) {
 
 struct Complaint : QCanvasRectangle {
     using QCanvasRectangle::QCanvasRectangle;
-    void draw(QPainter &) override {
-        host.messageBox(BoxKind::Warning, "once", "text");
-        EXPECT_FALSE(host.messageBox(BoxKind::Warning, "a", "b", BoxButtons::OkCancel))
-            << "there is no answer yet";
-    }
+    void draw(QPainter &) override { host.messageBox(BoxKind::Warning, "once", "text"); }
     GuiHost host;
 };
 

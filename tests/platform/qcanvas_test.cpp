@@ -45,14 +45,6 @@ TEST_F(CanvasTest, AStepHasTwoPhasesAndTheSecondMoves) {
     EXPECT_EQ(a->y(), -2);
 }
 
-TEST_F(CanvasTest, WhoRestsGetsNoStep) {
-    a->inStep = [&](int) { b->setAnimated(false); };
-    canvas.advance();
-    a->setVelocity(0, 0);
-    canvas.advance();
-    EXPECT_EQ(diary, "a0 a1 ");
-}
-
 TEST_F(CanvasTest, ItemsMayBeDeletedInAStep) {
     auto *c = new Walker(&canvas, "c", diary);
     a->inStep = [&](int) { delete std::exchange(b, nullptr); };
@@ -92,10 +84,6 @@ TEST(QCanvas, StepsByItselfOnlyWhileSomethingMoves) {
     canvas.steps = 0;
     QTest::qWait(2 * period);
     EXPECT_EQ(canvas.steps, 0) << "nothing moves";
-    canvas.setAdvancePeriod(-1);
-    item.setVelocity(1, 0);
-    QTest::qWait(2 * period);
-    EXPECT_EQ(canvas.steps, 0) << "no period";
 }
 
 } // namespace

@@ -64,8 +64,6 @@ struct FlightTest : BoardTest {
 
     DrCanvasPiece *piece = nullptr;
     QArray<XY> path;
-    QSignalSpy flights{&canvas, &DrCanvas::signalFly};
-    QSignalSpy dances{&canvas, &DrCanvas::signalDance};
 };
 
 } // namespace
@@ -83,15 +81,6 @@ TEST_F(BoardTest, MarksAndOwnersColourPlayingSquares) {
     EXPECT_EQ(colour(2, 4), "#6c806c") << "White's";
     canvas.ownedBy(2, 4, 8);
     EXPECT_EQ(colour(2, 4), "#806c6c") << "Black's";
-}
-
-TEST_F(BoardTest, OtherSquaresTakeNoMarks) {
-    for (const XY square : {XY(3, 4), XY(-1, -1), XY(10, 10)}) {
-        canvas.markSQ(square.x, square.y, MarkNext);
-        canvas.ownedBy(square.x, square.y, 4);
-        EXPECT_EQ(canvas.isMarked(square.x, square.y), MarkNone) << square.x << ',' << square.y;
-    }
-    EXPECT_EQ(colour(3, 4), "#8a8a8a");
 }
 
 TEST_F(BoardTest, SquaresLaidOutAnewKeepTheirMarks) {
@@ -145,17 +134,6 @@ TEST_F(FlightTest, LegsTakeTimeInProportionToTheirLength) {
         EXPECT_FALSE(piece->isDancing()) << leg.steps;
         EXPECT_EQ(piece->CalcDistance(), 0);
     }
-}
-
-TEST_F(FlightTest, SquaresAreMarkedAndLegsReportedAsThePieceReachesThem) {
-    launch({{2, 2}, {3, 3}});
-    step(6);
-    EXPECT_EQ(canvas.isMarked(2, 2), MarkPath);
-    EXPECT_EQ(flights.count(), 1);
-    EXPECT_EQ(dances.count(), 0);
-    step(6);
-    EXPECT_EQ(flights.count(), 2);
-    EXPECT_EQ(dances.count(), 1);
 }
 
 TEST_F(FlightTest, SecondDanceIsRefused) {
