@@ -6,15 +6,15 @@
 // a window or run an event loop asks active() first, for neither may happen while painting.
 class PaintScope {
 public:
-    PaintScope() { ++depth; }
-    ~PaintScope() { --depth; }
+    PaintScope() { ++depth_; }
+    ~PaintScope() { --depth_; }
     PaintScope(const PaintScope &) = delete;
     PaintScope &operator=(const PaintScope &) = delete;
 
-    static bool active() { return depth > 0; }
+    static bool active() { return depth_ > 0; }
 
 private:
-    inline static int depth = 0;
+    inline static int depth_ = 0;
 };
 
 #endif
