@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QFontInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -20,55 +21,9 @@
 #include <QTest>
 #include <QTranslator>
 
-#include <utility>
+#include <initializer_list>
 
 namespace {
-
-// The form, then a line for every widget: its place unless a layout has it, its largest size if it
-// has one, its font's points unless they are the application's, its weight, text and tool tip, and
-// "pen" where it takes no focus though it can be worked. Of a list the text is all items;
-// prose is left out.
-const char *const mainForm = R"(MainForm 240x320 min 240x310 max 240x320 'tavlora v1.0.3'
-btnSettings at 185,235 50x22 max 50x32767 8pt 'Settings'
-Layout8 at 0,235 48x24
-btnPrev max 20x22 8pt '<<'
-btnFwd max 20x22 9pt '>>'
-btnAbout at 85,235 40x22 max 40x32767 8pt 'About'
-btnBreak at 55,235 40x22 max 40x22 8pt 'BREAK' pen
-btnForce at 130,235 60x22 max 60x22 8pt 'Force Move'
-btnNewGame at 0,260 60x22 max 60x32767 8pt 'NewGame'
-labelScore at 69,261 34x22 ' 12/12' tip 'On Board'
-lblThinking at 115,260 115x22 max 150x32767 bold '**** THINKING ****')";
-
-const char *const settingsForm = R"(fsettings 209x170 min 0x0 max 240x300 'settings'
-TextLabel1_2 9pt 'Rules'
-cmbRules 9pt 'International|American|Polish Traditional' tip 'game rules' pen
-TextLabel1_2_2 9pt 'Board Size'
-cmbSize 9pt '6 for fun|8 checkers,brazylian|10 international|12 canadian' tip 'board size' pen
-TextLabel1 9pt 'level'
-cmbLevel 9pt 'Easy 1|Easy 2|2 sec/move|5 sec/move|10 sec/move|20 sec/move|1 min/move|infinite (until break)' tip 'thinking level' pen
-TextLabelP 9pt 'Players'
-cmbPlayers 'Human-Computer|Human-Human|Computer-Computer'
-chGiveAway 'Give Away' pen)";
-
-const char *const figuresForm = R"(formStat 169x233 min 0x0 max any 'statistic'
-TextLabel2 at 10,10 39x16 'Scores'
-llTime at 10,40 35x16 bold 'time'
-TextLabel2_2 at 11,116 45x16 'Moves'
-TextLabel2_2_2 at 10,145 55x16 'MaxLevel'
-lMaxLevel at 75,145 80x16 '0'
-TextLabel2_2_2_2 at 10,180 50x16 'Nodes'
-lNodes at 75,180 80x16 '0'
-lMovesGenerated at 74,116 80x16 '0'
-lTime at 75,40 85x16 bold '0'
-lScoresCalculated at 70,10 85x16 '0'
-labelEScore at 76,75 80x16 bold '0'
-TextLabel1_2_4 at 10,70 45x16 bold 'Score')";
-
-const char *const aboutForm = R"(fabout 220x224 min 220x200 max 220x260 'About'
-TextLabel1 bold 'Tavlora v 1.0.3'
-PixmapLabel1
-TextLabel6 10pt)";
 
 QStringList textsOf(const QWidget &widget) {
     QStringList texts = {widget.property("text").toString()};
@@ -107,7 +62,11 @@ QString inWords(const QWidget &widget) {
     return words;
 }
 
-std::string formInWords(const QWidget &form) {
+// The form, then a line for every widget: its place unless a layout has it, its largest size if it
+// has one, its font's points unless they are the application's, its weight, text and tool tip, and
+// "pen" where it takes no focus though it can be worked. Of a list the text is all items;
+// prose is left out.
+QString formInWords(const QWidget &form) {
     QString words = form.objectName() + ' ' + inWords(form.size()) + " min " +
                     inWords(form.minimumSize()) + " max " + inWords(form.maximumSize()) + " '" +
                     form.windowTitle() + '\'';
@@ -117,7 +76,14 @@ std::string formInWords(const QWidget &form) {
         if (!isPartOfAList)
             words += '\n' + inWords(*widget);
     }
-    return words.toStdString();
+    return words + '\n';
+}
+
+QString inWords(std::initializer_list<const QWidget *> forms) {
+    QStringList words;
+    for (const QWidget *form : forms)
+        words << formInWords(*form);
+    return words.join('\n');
 }
 
 // In a font of the application's that is none of theirs.
@@ -128,17 +94,18 @@ TEST(Forms, AreBuiltAsToldAndStaySoInAnotherFont) {
     const formsettings settings;
     const formStat figures;
     const fabout about;
-    const std::pair<const QWidget *, const char *> forms[] = {
-        {&game, mainForm}, {&settings, settingsForm}, {&figures, figuresForm}, {&about, aboutForm}};
-    for (const auto &[form, told] : forms) {
-        EXPECT_EQ(formInWords(*form), told);
+    const std::initializer_list<const QWidget *> forms = {&game, &settings, &figures, &about};
+    QFile file(TEST_DATA "/forms.txt");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString told = file.readAll();
+    EXPECT_EQ(inWords(forms).toStdString(), told.toStdString());
+    for (const QWidget *form : forms) {
         for (QWidget *widget : form->findChildren<QWidget *>())
             widget->setFont(QFont()); // forgets what is its own
     }
     QApplication::setFont(QFont(usual.family(), 20));
     QApplication::processEvents(); // the change is told then
-    for (const auto &[form, told] : forms)
-        EXPECT_EQ(formInWords(*form), told);
+    EXPECT_EQ(inWords(forms).toStdString(), told.toStdString());
     QApplication::setFont(usual);
 }
 
