@@ -16,6 +16,19 @@ TEST_F(GameTest, NewGameAtTheFirstPositionAsksNothing) {
     EXPECT_EQ(status(), "[Your Move] 20/20 About Force Settings NewGame");
 }
 
+TEST(GameHist, APositionReplacesThoseThatFollowedTheCurrentOne) {
+    gameHist history;
+    for (const board &position : {board(6), board(8), board(10)})
+        history.insert(&position);
+    history.prev();
+    history.prev();
+    const board other(12);
+    history.insert(&other);
+    EXPECT_FALSE(history.canFwd());
+    EXPECT_TRUE(history.prev());
+    EXPECT_EQ(history.getBoard()->size, 6);
+}
+
 TEST(GameHist, EndsAreTold) {
     gameHist history;
     QSignalSpy noNext(&history, &gameHist::noNext);

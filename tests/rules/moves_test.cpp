@@ -86,4 +86,11 @@ TEST(Moves, MenAboutToPass) {
     }
 }
 
+TEST(Moves, ABlockedManLosesItsMark) {
+    EngineRig rig(RuleSet::International, "w .b.... w..... ...... ...... ...... ......");
+    rig.position.squares[0][4] |= codeCanMove;
+    rig.engine->FillMoveList();
+    EXPECT_EQ(rig.position.squares[0][4], whiteMan);
+}
+
 } // namespace

@@ -138,9 +138,14 @@ TEST_F(FlightTest, LegsTakeTimeInProportionToTheirLength) {
 
 TEST_F(FlightTest, SecondDanceIsRefused) {
     launch({{2, 2}});
-    piece->setDanceTo(&path);
+    QArray<XY> elsewhere;
+    elsewhere.append({3, 3});
+    piece->setDanceTo(&elsewhere);
     EXPECT_EQ(host.boxes.at(0),
               (RecordingHost::Box{BoxKind::Warning, "DrCanvasPiece::setDanceTo", "still busy"}));
+    step(6);
+    EXPECT_FALSE(piece->isDancing());
+    EXPECT_EQ(piece->boardX(), 2) << "where it was sent first";
 }
 
 TEST_F(BoardTest, PressesBecomePlayingSquares) {
