@@ -126,6 +126,8 @@ TEST(Forms, SettingsFollowThePlayerAndNotTheProgram) {
     EXPECT_EQ(settings.rulesIndex, 1);
     EXPECT_EQ(settings.sizeIndex, 1);
     EXPECT_EQ(settings.levelIndex, 1);
+    settings.setGiveAway(Qt::PartiallyChecked);
+    EXPECT_FALSE(settings.giveAway) << "the undecided state is not on";
     settings.chGiveAway->click();
     settings.setGiveAway(Qt::PartiallyChecked);
     EXPECT_TRUE(settings.giveAway) << "the undecided state changes nothing";
