@@ -9,11 +9,21 @@ TEST_F(GameTest, ComputersOnBothSidesBeginWithAllOfTheNewSettings) {
         firstRequest = request();
         AbstractEngine::breakThinking = true;
     });
-    accept({.rules = polish,
-            .size = sixSquares,
-            .level = infinite,
-            .players = computers,
-            .toggleGiveAway = true});
+    formsettings &dialog = *game.pSettings;
+    const auto choose = [&dialog, this] {
+        const std::pair<QComboBox *, int> choices[] = {{dialog.cmbRules, polish},
+                                                       {dialog.cmbSize, sixSquares},
+                                                       {dialog.cmbLevel, infinite},
+                                                       {dialog.cmbPlayers, computers}};
+        for (const auto &[chooser, item] : choices) {
+            while (chooser->currentIndex() != item)
+                Hand::turnWheel(chooser, item < chooser->currentIndex());
+        }
+        press(dialog.chGiveAway, QPoint(5, dialog.chGiveAway->height() / 2));
+        Hand::type(&dialog, Qt::Key_Return);
+    };
+    const auto open = [this] { press(game.btnSettings); };
+    whileOpen(&dialog, open, choose);
     EXPECT_EQ(firstRequest, "PolEngine, 99999999 s, noise 5, give-away");
     EXPECT_EQ(request(), firstRequest);
     EXPECT_EQ(status(), "[] 6/6 Break");

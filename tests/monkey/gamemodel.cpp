@@ -4,9 +4,9 @@
 #include "rules/ruleset.h"
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
-#include "tests/rig/livehost.h"
 #include "tests/rig/windowtext.h"
 #include "tests/support/drawnboard.h"
+#include "tests/support/recordinghost.h"
 
 #include <algorithm>
 #include <memory>
@@ -288,7 +288,10 @@ std::string GameModel::historyText() const {
 
 // A box that has to open is as good as one.
 std::string GameModel::openText() const {
-    const std::string texts[] = {"", "settings\n", "about\n", newGameBox, gameOverBox};
+    constexpr const char *texts[] = {
+        "", "settings\n", "about\n",
+        "warning of the window: confirm: confirm NewGame [Ok Cancel]\n",
+        "warning of the window: Game Over: Game Over [Ok]\n"};
     return texts[static_cast<int>(due != Open::Nothing ? due : open)];
 }
 

@@ -16,14 +16,6 @@ std::string boardText(const board &b, unsigned key) {
     return picture(b) + std::to_string(key) + '\n';
 }
 
-// The boxes since the last call.
-std::string boxesText(RecordingHost &host) {
-    std::string text;
-    for (const RecordingHost::Box &box : std::exchange(host.boxes, {}))
-        text += box.text.toStdString() + '\n';
-    return text;
-}
-
 std::string valuesText(bool canPass, int freedom, int value, int valueWithPassages) {
     std::ostringstream text;
     text << "a man can pass " << canPass << ", freedom " << freedom << ", value " << value
@@ -52,7 +44,7 @@ std::string saidByEngine(EngineRig &rig) {
     int freedom = 0;
     bool canPass = false;
     heuristic *passages = engine.doHeuristic(&h, freedom, canPass);
-    return text + boxesText(rig.host) +
+    return text + rig.host.takeBoxes() +
            valuesText(canPass, freedom, engine.materialScore(nullptr),
                       engine.materialScore(passages));
 }
@@ -100,7 +92,7 @@ std::string saidByBits(EngineRig &rig) {
     MoveStack<BitMove<N>> quiet;
     generator.listQuiet(quiet);
     tellMoves(quiet, static_cast<std::size_t>(generator.countQuiet()));
-    return text + boxesText(rig.host) + valuesOnBits<Form, White>(position);
+    return text + rig.host.takeBoxes() + valuesOnBits<Form, White>(position);
 }
 
 void bitsSayWhatTheEngineSays(Bytes &bytes) {

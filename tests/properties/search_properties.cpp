@@ -45,8 +45,9 @@ std::string outcome(const EngineRig &rig, const LegalMove *move) {
         << s.scoresCalculated << ", cut-offs " << s.cutoffs << ", sacrifices "
         << s.senselessSacrifices << ", hash hits " << s.hashHits << ", deepest level " << s.maxLevel
         << ", time credit " << s.timeCredit << ", rounds of events " << rig.host.eventRounds
-        << ", beeps " << rig.host.beeps << ", boxes " << rig.host.boxes.size() << ", stored "
-        << rig.table.count << ", broken off " << AbstractEngine::breakThinking << '\n';
+        << ", beeps " << rig.host.beeps << ", stored " << rig.table.count << ", broken off "
+        << AbstractEngine::breakThinking << '\n'
+        << rig.host.boxes;
     for (const LegalMove &m : rig.engine->moveList)
         out << moveText(m) << ' ' << m.score << ", reduced by " << m.reduction << '\n';
     return out.str();

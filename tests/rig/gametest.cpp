@@ -4,8 +4,6 @@
 #include <QDialog>
 #include <QTimer>
 
-#include <algorithm>
-
 GameTest::GameTest() {
     game.setLevel(easy1);
     game.show();
@@ -77,36 +75,6 @@ void GameTest::whileOpen(const QDialog *dialog, const std::function<void()> &ope
     open();
     EXPECT_TRUE(opened);
     EXPECT_FALSE(dialog->isVisible());
-}
-
-QPushButton *GameTest::rowButton(const QDialog &dialog, const QString &text) {
-    const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.begin(), buttons.end(), [&text](QPushButton *button) {
-        return button->text().remove('&') == text;
-    });
-    return found != buttons.end() ? *found : nullptr;
-}
-
-void GameTest::choose(const Picks &picks, const QString &button) {
-    formsettings &dialog = *game.pSettings;
-    const auto pick = [&] {
-        const struct {
-            QComboBox *chooser;
-            std::optional<int> item;
-        } choosers[] = {{dialog.cmbRules, picks.rules},
-                        {dialog.cmbSize, picks.size},
-                        {dialog.cmbLevel, picks.level},
-                        {dialog.cmbPlayers, picks.players}};
-        for (const auto &[chooser, item] : choosers) {
-            while (item.has_value() && chooser->currentIndex() != *item)
-                Hand::turnWheel(chooser, *item < chooser->currentIndex());
-        }
-        if (picks.toggleGiveAway)
-            press(dialog.chGiveAway, QPoint(5, dialog.chGiveAway->height() / 2));
-        press(rowButton(dialog, button));
-    };
-    whileOpen(
-        &dialog, [this] { press(game.btnSettings); }, pick);
 }
 
 void GameTest::duringSearch(const std::function<void()> &act) {

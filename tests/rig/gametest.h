@@ -8,9 +8,10 @@
 #include "search/abstractengine.h"
 #include "search/thinkstatistic.h"
 #include "tests/rig/hand.h"
-#include "tests/rig/livehost.h"
+#include "tests/rig/opengame.h"
 #include "tests/rig/windowtext.h"
 #include "tests/support/drawnboard.h"
+#include "tests/support/recordinghost.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvaspiece.h"
 #include "view/mycanvasview.h"
@@ -19,26 +20,29 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-
-#include <optional>
 
 inline constexpr const char *startOfTen =
     "w .b.b.b.b.b b.b.b.b.b. .b.b.b.b.b b.b.b.b.b. .......... .......... "
     ".w.w.w.w.w w.w.w.w.w. .w.w.w.w.w w.w.w.w.w.";
 
 // Items of the settings dialog.
-inline constexpr int international = 0, american = 1, polish = 2;
-inline constexpr int sixSquares = 0, eightSquares = 1, tenSquares = 2, twelveSquares = 3;
-inline constexpr int easy1 = 0, easy2 = 1, fiveSeconds = 3, infinite = 7;
+inline constexpr int polish = 2;
+inline constexpr int sixSquares = 0, eightSquares = 1, twelveSquares = 3;
+inline constexpr int easy1 = 0, fiveSeconds = 3, infinite = 7;
 inline constexpr int humans = humanHuman, computers = computerComputer;
 
-// What to change in the settings dialog; the rest stays as it is.
-struct Picks {
-    std::optional<int> rules = {}, size = {}, level = {}, players = {};
-    bool toggleGiveAway = false;
+// Boxes recorded and answered as told, events and time those of the program.
+class LiveHost : public RecordingHost {
+public:
+    void processEvents() override {
+        QCoreApplication::processEvents();
+        RecordingHost::processEvents();
+    }
+    qint64 clockMs() override { return Host::clockMs(); }
 };
 
 // The game in a shown window, at the level "Easy 1". Every box that a test does not take away with
@@ -64,11 +68,6 @@ protected:
     // Calls `act`, which closes it, while the dialog is there that `open` opens.
     void whileOpen(const QDialog *dialog, const std::function<void()> &open,
                    const std::function<void()> &act);
-    // Opens the settings, changes them with mouse and keys, and leaves with OK or Cancel.
-    void accept(const Picks &picks) { choose(picks, "OK"); }
-    void reject(const Picks &picks) { choose(picks, "Cancel"); }
-    // OK or Cancel of the dialog's row.
-    static QPushButton *rowButton(const QDialog &dialog, const QString &text);
 
     // Calls `act` once, in the middle of the next search.
     void duringSearch(const std::function<void()> &act);
@@ -88,9 +87,6 @@ protected:
     LiveHost host;
     OpenGame game;
     Hand hand;
-
-private:
-    void choose(const Picks &picks, const QString &button);
 };
 
 #endif
