@@ -10,7 +10,8 @@ class QMouseEvent;
 
 // Shows a canvas pixel for pixel with its top left corner in the view's own, inside the frame. No
 // scroll bars, no scaling, no antialiasing. Presses and movements of the mouse arrive in canvas
-// coordinates through the contents... operations. Takes no keyboard focus.
+// coordinates through the contents... operations. Takes the keyboard focus only where a subclass
+// does.
 class QCanvasView : public QGraphicsView {
     Q_OBJECT
 
