@@ -30,9 +30,9 @@ void Draughts::resizeEvent(QResizeEvent *event) {
     ResizeCanvasPieces();
 }
 
-// Centred horizontally, at the top.
+// Centred horizontally, at the top of the form.
 void Draughts::placeView() {
-    pView->move((width() - pView->width()) / 2, 0);
+    pView->move((width() - pView->width()) / 2, formOrigin().y());
 }
 
 // A piece in flight keeps its course: it belongs to the square that it flies to.

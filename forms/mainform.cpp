@@ -10,6 +10,7 @@
 
 namespace {
 
+constexpr QSize formSize(240, 320);
 // "As high or wide as it likes" in the forms' terms.
 constexpr int unlimited = 32767;
 
@@ -30,18 +31,35 @@ MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(paren
 MainForm::~MainForm() = default;
 
 bool MainForm::event(QEvent *e) {
+    if (e->type() == QEvent::Resize)
+        centreControls();
     const bool handled = QWidget::event(e);
     if (e->type() == QEvent::ApplicationFontChange)
         setFonts();
     return handled;
 }
 
+QPoint MainForm::formOrigin() const {
+    return {qMax(width() - formSize.width(), 0) / 2, qMax(height() - formSize.height(), 0) / 2};
+}
+
+// They have been placed for the origin before.
+void MainForm::centreControls() {
+    const QPoint shift = formOrigin() - controlsOrigin_;
+    controlsOrigin_ += shift;
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{btnSettings, Layout8->parentWidget(), btnAbout, btnBreak,
+                                          btnForce, btnNewGame, labelScore, lblThinking})
+        control->move(control->pos() + shift);
+}
+
 void MainForm::setUpWindow(const char *name) {
     setObjectName(QString::fromUtf8(name != nullptr ? name : "MainForm"));
-    resize(240, 320);
+    resize(formSize);
     setMinimumSize(240, 310);
-    setMaximumSize(240, 320);
-    setBaseSize(240, 320);
+    setMaximumSize(formSize);
+    setBaseSize(formSize);
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false); // there is nothing to fill a screen with
     QSizePolicy policy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     policy.setHeightForWidth(sizePolicy().hasHeightForWidth());
     setSizePolicy(policy);

@@ -12,8 +12,9 @@ class QPushButton;
 
 // A fixed form of 240 x 320 pixels: room for the board at the top and below it two rows of small
 // buttons and two labels. It creates and places its children and keeps their fonts; what the
-// buttons do is the business of the class that derives from it. btnAbout and btnBreak overlap: one
-// of them is to be hidden. While btnBreak shows, Escape presses it. The children belong to the
+// buttons do is the business of the class that derives from it. In a window that the desktop makes
+// larger all the same, the controls lie as in a form in its middle. btnAbout and btnBreak overlap:
+// one of them is to be hidden. While btnBreak shows, Escape presses it. The children belong to the
 // form.
 class MainForm : public QWidget {
     Q_OBJECT
@@ -35,8 +36,12 @@ public:
     QHBoxLayout *Layout8;
 
 protected:
-    // Sets the children's fonts again when the application's font changes.
+    // Sets the children's fonts again when the application's font changes, and keeps the controls
+    // in the middle of the window.
     bool event(QEvent *e) override;
+
+    // Where in the window the form's 240 x 320 pixels begin: (0, 0) unless it is larger.
+    QPoint formOrigin() const;
 
 private:
     QPushButton *addButton(QWidget *owner, const char *name, const QString &text);
@@ -47,6 +52,9 @@ private:
     void setFonts();
     void nameControls();
     void orderControls();
+    void centreControls();
+
+    QPoint controlsOrigin_; // the form's origin that the controls are placed for
 };
 
 #endif

@@ -91,6 +91,25 @@ TEST_F(GameTest, TheBoardKeepsItsSizeAndTheMiddleOfTheWindow) {
     EXPECT_EQ(game.pView->geometry(), QRect(84, 0, 232, 232));
 }
 
+// A tiling desktop keeps to no size limits.
+TEST_F(GameTest, TheWholeFormLiesInTheMiddleOfALargerWindow) {
+    const auto placesIn = [this](QSize window) {
+        game.resize(window);
+        QCoreApplication::processEvents();
+        std::map<const QWidget *, QPoint> places;
+        for (const QWidget *part : game.findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+            if (!part->isWindow())
+                places[part] = part->pos();
+        }
+        return places;
+    };
+    game.setMaximumSize(1000, 1000);
+    const auto built = placesIn({240, 320});
+    for (const auto &[part, place] : placesIn({640, 500}))
+        EXPECT_EQ(place, built.at(part) + QPoint(200, 90)) << part->objectName().toStdString();
+    EXPECT_EQ(placesIn({240, 310}), built);
+}
+
 TEST(Format1000, GroupsThreeDigits) {
     const struct {
         int number;
