@@ -98,6 +98,9 @@ void Draughts::createBoard() {
     CreateCanvasPieces(pCanvas.get(), pBoard.get());
     pView = new MyCanvasView(pCanvas.get(), this, pMetrics.get());
     pView->setAccessibleName(tr("Board"));
+    connect(pView, &MyCanvasView::pieceWanted, this, &Draughts::moveCursorToPiece);
+    connect(pView, &MyCanvasView::cancelled, this, &Draughts::cancelMove);
+    putFirst(pView);
     placeView();
     pView->show();
 }

@@ -119,6 +119,10 @@ public slots:
     void AfterDance();
     // The player taps square (x, y). Squares outside the board are ignored.
     void userInput(int x, int y, bool right);
+    // The player gives up the move that he is entering.
+    void cancelMove();
+    // The board's cursor goes to the next, or the previous, piece that the player can move.
+    void moveCursorToPiece(bool next);
     // The computer takes the side to move, and moves.
     void forceMove();
     // The items of the settings dialog; an index that is no item is reported in a box and replaced.

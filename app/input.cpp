@@ -5,7 +5,9 @@
 #include "forms/fabout.h"
 #include "rules/board.h"
 #include "search/abstractengine.h"
+#include "view/boardcursor.h"
 #include "view/drcanvas.h"
+#include "view/mycanvasview.h"
 
 #include <QPushButton>
 
@@ -30,6 +32,23 @@ void Draughts::userInput(int x, int y, bool) {
         selection.resize(0);
         markSquares(0);
     }
+}
+
+void Draughts::cancelMove() {
+    if (isBusy() || selection.isEmpty())
+        return;
+    selection.resize(0);
+    targets.resize(0);
+    markSquares(0);
+}
+
+void Draughts::moveCursorToPiece(bool next) {
+    if (phase_ != Phase::Waiting)
+        return;
+    QList<XY> movable;
+    for (const LegalMove &move : *pEngine->getMoveList())
+        movable << move.from();
+    pView->moveCursor(nextStop(*pMetrics, pView->cursorSquare(), movable, next));
 }
 
 // The index of a legal move that begins with the squares tapped so far, -1 when there is none, and

@@ -115,14 +115,16 @@ void Draughts::connectControls() {
     wire(connected.flight, pCanvas.get(), &DrCanvas::signalDance, this, &Draughts::AfterDance);
 }
 
-// The toolkit takes the focus from a button that is disabled or hidden and gives it to another, in
-// the end to none.
+// The toolkit takes the focus from a button that is disabled or hidden and gives it to another, and
+// a screen reader names each of them. So it rests on the board, which always takes it.
 void Draughts::keepFocus() {
-    if (focusKept_.isNull())
-        focusKept_ = focusWidget();
+    if (!focusKept_.isNull() || focusWidget() == nullptr)
+        return;
+    focusKept_ = focusWidget();
+    pView->setFocus(Qt::OtherFocusReason);
 }
 
-// Whoever plays by keyboard goes on from the button pressed last.
+// Whoever plays by keyboard goes on from where he was, the board or the button pressed last.
 void Draughts::giveBackFocus() {
     if (!focusKept_.isNull() && focusKept_->isEnabled())
         focusKept_->setFocus();

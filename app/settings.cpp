@@ -83,10 +83,13 @@ void Draughts::setBSize(int index) {
     pBoard->startPos(squares);
     adoptEngine(
         std::unique_ptr<AbstractEngine>(pEngine->selfClone(pBoard.get(), 1, pStat.get(), squares)));
+    const bool focused = focusWidget() == pView;
     delete pView;
     pCanvas.reset();
     trash.clear();
     createBoard();
+    if (focused)
+        pView->setFocus();
     pHist->clear();
     newGame();
 }

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -17,6 +18,23 @@ constexpr int unlimited = 32767;
 constexpr int smallPoints = 8;
 constexpr int forwardPoints = 9;
 
+// Not the button's own shortcut, which presses it for a tenth of a second first. A key that is held
+// down counts once: by its repeats it would answer the question that NewGame asks, or break off the
+// other side's thinking as well. The toolkit passes over buttons that are hidden or disabled. Who
+// hears the button's name need not hear it again.
+void addKeys(QPushButton *button, const QList<QKeySequence> &keys) {
+    auto *shortcut = new QShortcut(button);
+    shortcut->setKeys(keys);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    const QString names = QKeySequence::listToString(keys, QKeySequence::NativeText);
+    const QString spoken = button->accessibleName();
+    button->setToolTip(
+        QStringLiteral("%1 (%2)").arg(spoken.isEmpty() ? button->text() : spoken, names));
+    if (button->accessibleDescription().isEmpty())
+        button->setAccessibleDescription(names);
+}
+
 } // namespace
 
 MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(parent, fl) {
@@ -25,6 +43,7 @@ MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(paren
     addLowerRow();
     setFonts();
     nameControls();
+    giveKeys();
     orderControls();
 }
 
@@ -51,6 +70,16 @@ void MainForm::centreControls() {
          std::initializer_list<QWidget *>{btnSettings, Layout8->parentWidget(), btnAbout, btnBreak,
                                           btnForce, btnNewGame, labelScore, lblThinking})
         control->move(control->pos() + shift);
+}
+
+// What the button that has the focus has no use for itself: the toolkit leaves Return to dialogs.
+void MainForm::keyPressEvent(QKeyEvent *e) {
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    const bool isReturn = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
+    if (isReturn && button != nullptr && !e->isAutoRepeat())
+        button->click();
+    else
+        QWidget::keyPressEvent(e);
 }
 
 void MainForm::setUpWindow(const char *name) {
@@ -108,10 +137,6 @@ void MainForm::addBreak() {
     btnBreak->setMaximumSize(40, 22);
     btnBreak->setEnabled(true);
     btnBreak->setFocusPolicy(Qt::NoFocus);
-    // Not the button's own shortcut, which presses it for a tenth of a second first.
-    auto *breakKey = new QShortcut(Qt::Key_Escape, btnBreak);
-    breakKey->setAutoRepeat(false); // in the flight that follows it would count again
-    connect(breakKey, &QShortcut::activated, btnBreak, &QPushButton::click);
 }
 
 void MainForm::addLowerRow() {
@@ -150,6 +175,21 @@ void MainForm::nameControls() {
     btnBreak->setAccessibleDescription(
         tr("Plays the best move found so far; so does the Escape key."));
     btnForce->setAccessibleDescription(tr("Lets the computer move for the side to move."));
+}
+
+void MainForm::giveKeys() {
+    addKeys(btnPrev, {Qt::CTRL | Qt::Key_Z, Qt::ALT | Qt::Key_Left});
+    addKeys(btnFwd, {Qt::CTRL | Qt::Key_Y, Qt::ALT | Qt::Key_Right});
+    addKeys(btnAbout, {Qt::Key_F1});
+    addKeys(btnBreak, {Qt::Key_Escape});
+    addKeys(btnNewGame, {Qt::CTRL | Qt::Key_N});
+    auto *quit = new QShortcut(Qt::CTRL | Qt::Key_Q, this);
+    connect(quit, &QShortcut::activated, this, &QWidget::close);
+}
+
+void MainForm::putFirst(QWidget *board) {
+    setTabOrder(board, btnPrev);
+    orderControls();
 }
 
 // As the eye goes, whatever order they were made in.

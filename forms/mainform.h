@@ -14,8 +14,11 @@ class QPushButton;
 // buttons and two labels. It creates and places its children and keeps their fonts; what the
 // buttons do is the business of the class that derives from it. In a window that the desktop makes
 // larger all the same, the controls lie as in a form in its middle. btnAbout and btnBreak overlap:
-// one of them is to be hidden. While btnBreak shows, Escape presses it. The children belong to the
-// form.
+// one of them is to be hidden. The children belong to the form.
+//
+// Return presses the button that has the focus, and most buttons have keys of their own, which
+// their tool tips name: Ctrl+N, Ctrl+Z, Ctrl+Y, F1, Escape. A key does what a click would do: of a
+// button that is hidden or disabled nothing. Ctrl+Q closes the window.
 class MainForm : public QWidget {
     Q_OBJECT
 
@@ -39,6 +42,10 @@ protected:
     // Sets the children's fonts again when the application's font changes, and keeps the controls
     // in the middle of the window.
     bool event(QEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
+
+    // Tab comes to `board` before all buttons.
+    void putFirst(QWidget *board);
 
     // Where in the window the form's 240 x 320 pixels begin: (0, 0) unless it is larger.
     QPoint formOrigin() const;
@@ -51,6 +58,7 @@ private:
     void addLowerRow();
     void setFonts();
     void nameControls();
+    void giveKeys();
     void orderControls();
     void centreControls();
 

@@ -144,6 +144,13 @@ void GameModel::tap(const XY &square) {
         entered.clear();
 }
 
+void GameModel::cancel() {
+    if (phase != Phase::Waiting || entered.empty())
+        return;
+    entered.clear();
+    clearMarks();
+}
+
 void GameModel::startFlight(const LegalMove &m) {
     clearMarks();
     entered.clear();

@@ -43,6 +43,8 @@ public:
     // A button, by its name without "btn".
     void click(const std::string &button);
     void tap(const XY &square);
+    // The move being entered is given up.
+    void cancel();
     // The settings dialog is closed with OK, or otherwise; `shown` is what it showed then.
     void accept(const Choices &shown);
     void reject(const Choices &shown);

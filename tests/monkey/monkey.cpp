@@ -168,13 +168,19 @@ bool Monkey::eventFilter(QObject *watched, QEvent *event) {
             watchButton(*button, event);
         break;
     case QEvent::Shortcut:
-        if (watched->parent() == window_->btnBreak)
-            noteClick("Break");
+        if (watched->parent()->parent() != nullptr) // a button's, not the window's
+            noteClick(watched->parent()->objectName().mid(3).toStdString());
+        break;
+    case QEvent::KeyPress:
+        if (watched == window_->pView)
+            watchBoard(*static_cast<QKeyEvent *>(event));
+        else if (watched == window_.get())
+            watchForm(*static_cast<QKeyEvent *>(event));
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (watched == window_->pView->viewport())
-            watchBoard(event);
+            watchBoard(*static_cast<QMouseEvent *>(event));
         break;
     default:
         break;
@@ -197,19 +203,38 @@ void Monkey::watchButton(const QPushButton &button, const QEvent *event) {
         noteClick(button.objectName().mid(3).toStdString());
 }
 
+// Where Return comes to when the button that has the focus leaves it alone.
+void Monkey::watchForm(const QKeyEvent &key) {
+    const auto *button = qobject_cast<QPushButton *>(window_->focusWidget());
+    if (key.key() == Qt::Key_Return && !key.isAutoRepeat() && button != nullptr)
+        noteClick(button->objectName().mid(3).toStdString());
+}
+
 void Monkey::noteClick(const std::string &button) {
     journal_.note("clicks " + button);
     model_.click(button);
 }
 
-void Monkey::watchBoard(const QEvent *event) {
-    const QPointF at = static_cast<const QMouseEvent *>(event)->position();
+void Monkey::watchBoard(const QKeyEvent &key) {
+    const bool taps = key.key() == Qt::Key_Space || key.key() == Qt::Key_Return;
+    if (key.key() == Qt::Key_Escape)
+        model_.cancel();
+    else if (taps && !key.isAutoRepeat())
+        noteTap(window_->pView->cursorSquare());
+}
+
+void Monkey::watchBoard(const QMouseEvent &press) {
+    const QPointF at = press.position();
     const int side = window_->pMetrics->SquareWidthB();
     const int n = model_.squares();
     const XY square(static_cast<int>(std::floor(at.x() / side)),
                     n - 1 - static_cast<int>(std::floor(at.y() / side)));
-    if (square.x < 0 || square.y < 0 || square.x >= n || square.y >= n || (square.x + square.y) % 2)
-        return;
+    if (square.x >= 0 && square.y >= 0 && square.x < n && square.y < n &&
+        (square.x + square.y) % 2 == 0)
+        noteTap(square);
+}
+
+void Monkey::noteTap(const XY &square) {
     journal_.note("taps " + inOrder({square}));
     model_.tap(square);
 }

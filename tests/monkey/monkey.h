@@ -13,6 +13,8 @@
 #include <map>
 #include <memory>
 
+class QKeyEvent;
+class QMouseEvent;
 class QPushButton;
 
 // What all runs together have seen, and how often.
@@ -64,7 +66,10 @@ private:
     void runDialog(QDialog *dialog);
     void leaveSettings(bool accepted);
     void watchButton(const QPushButton &button, const QEvent *event);
-    void watchBoard(const QEvent *event);
+    void watchForm(const QKeyEvent &key);
+    void watchBoard(const QMouseEvent &press);
+    void watchBoard(const QKeyEvent &key);
+    void noteTap(const XY &square);
     void noteClick(const std::string &button);
 
     Dice dice_;

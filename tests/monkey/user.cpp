@@ -10,7 +10,8 @@
 #include <QPushButton>
 
 static constexpr Qt::Key keys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space, Qt::Key_Return,
-                                   Qt::Key_Escape, Qt::Key_Up,      Qt::Key_Down};
+                                   Qt::Key_Escape, Qt::Key_Up,      Qt::Key_Down,  Qt::Key_Left,
+                                   Qt::Key_Right,  Qt::Key_N,       Qt::Key_F1};
 
 // The gestures and what the user sees before making one.
 struct User::Gestures {
@@ -120,7 +121,14 @@ struct User::Gestures {
     QPoint middle(const QWidget &widget) const {
         return widget.mapTo(&game, widget.rect().center());
     }
+    // By its name where the board has the keyboard.
     void tap(const XY &square) {
+        if (game.pView->hasFocus() && dice.oneIn(2)) {
+            for (const QChar letter : squareName(square).toUpper())
+                Hand::type(&game, static_cast<Qt::Key>(letter.unicode()));
+            Hand::type(&game, Qt::Key_Return);
+            return;
+        }
         const boardMetrics &m = *game.pMetrics;
         const QPoint at(m.BxToScr(square.x) + dice.below(m.SquareWidthB()),
                         m.ByToScr(square.y) + dice.below(m.SquareHeightB()));
