@@ -1,6 +1,7 @@
 #include "forms/mainform.h"
 
 #include "forms/formfonts.h"
+#include "platform/displaysetup.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -8,10 +9,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QWindow>
 
 namespace {
 
-constexpr QSize formSize(240, 320);
 // "As high or wide as it likes" in the forms' terms.
 constexpr int unlimited = 32767;
 
@@ -55,6 +56,10 @@ bool MainForm::event(QEvent *e) {
     const bool handled = QWidget::event(e);
     if (e->type() == QEvent::ApplicationFontChange)
         setFonts();
+    // The toolkit does not hand it on; without it window managers round the size to whole pixels of
+    // the form, counted from nowhere.
+    if (e->type() == QEvent::WinIdChange && windowHandle() != nullptr)
+        windowHandle()->setBaseSize(baseSize());
     return handled;
 }
 

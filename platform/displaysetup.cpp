@@ -3,18 +3,22 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <cmath>
 #include <optional>
 #include <vector>
 
 namespace {
 
-constexpr QSize formSize(240, 320);
+// At quarter steps every pixel of a form keeps clear edges, and larger windows fit no screen.
+constexpr int stepsAPixel = 4;
+constexpr double largestFactor = 8;
+// What title bars take of the screen's height.
+constexpr int titleBar = 40;
 // From this many pixels on, in width and height, two screen pixels a form pixel are still tiny.
 constexpr int veryLargeScreen = 1440;
 
 constexpr const char *fontDpi = "QT_FONT_DPI";
 constexpr const char *scaleFactor = "QT_SCALE_FACTOR";
-constexpr const char *screenScaleFactors = "QT_SCREEN_SCALE_FACTORS";
 
 // Takes a variable out of the environment for as long as it lives.
 class HiddenVariable {
@@ -38,31 +42,63 @@ private:
 
 // The toolkit tells the screen's size only to an application object. This one goes before the real
 // one comes; the desktop's session and launch feedback are not for it.
-QSize primaryScreenSize(int argc, char **argv) {
+double factorForThisScreen(int argc, char **argv, WindowSize wish) {
     const HiddenVariable session("SESSION_MANAGER");
     const HiddenVariable launch("DESKTOP_STARTUP_ID");
+    const HiddenVariable factorBefore(scaleFactor);
     std::vector<char *> arguments(argv, argv + argc);
     arguments.push_back(nullptr);
     const QGuiApplication onlooker(argc, arguments.data());
     const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? screen->size() : QSize();
+    return screen != nullptr ? formScaleFactor(screen->size(), screen->availableSize(), wish) : 1;
+}
+
+double quarterStep(double factor) {
+    return qMax(std::floor(factor * stepsAPixel) / stepsAPixel, 1.0);
+}
+
+double largestThatFits(QSize space) {
+    return quarterStep(
+        qMin(double(space.width()) / formSize.width(), double(space.height()) / formSize.height()));
+}
+
+QSize belowTitleBar(QSize space) {
+    return space - QSize(0, titleBar);
+}
+
+double suitableFactor(QSize screen, QSize free) {
+    if (qMin(screen.width(), screen.height()) >= veryLargeScreen)
+        return 3;
+    return largestThatFits(free) >= 2 ? 2 : largestThatFits(belowTitleBar(free));
 }
 
 } // namespace
 
-int formScaleFactor(QSize screen) {
-    const int shortSide = qMin(screen.width(), screen.height());
-    if (shortSide >= veryLargeScreen)
-        return 3;
-    const QSize doubled = formSize * 2;
-    return screen.width() >= doubled.width() && screen.height() >= doubled.height() ? 2 : 1;
+double formScaleFactor(QSize screen, QSize free, WindowSize wish) {
+    const double suitable = suitableFactor(screen, free);
+    switch (wish) {
+    case WindowSize::Larger:
+        return qMax(suitable,
+                    qMin(quarterStep(suitable * 3 / 2), largestThatFits(belowTitleBar(free))));
+    case WindowSize::Smaller:
+        return quarterStep(suitable * 2 / 3);
+    case WindowSize::Suitable:
+        break;
+    }
+    return suitable;
 }
 
-void prepareDisplay(int argc, char **argv) {
+void prepareDisplay(int argc, char **argv, WindowSize wish) {
     // Read once by the toolkit, so it has to be there before the screen is looked at.
-    if (!qEnvironmentVariableIsSet(fontDpi))
-        qputenv(fontDpi, "72");
-    if (qEnvironmentVariableIsSet(scaleFactor) || qEnvironmentVariableIsSet(screenScaleFactors))
-        return;
-    qputenv(scaleFactor, QByteArray::number(formScaleFactor(primaryScreenSize(argc, argv))));
+    qputenv(fontDpi, "72");
+    if (wish != WindowSize::Suitable || !qEnvironmentVariableIsSet(scaleFactor))
+        chooseFormScale(factorForThisScreen(argc, argv, wish));
+}
+
+bool isFormScale(double factor) {
+    return factor == quarterStep(factor) && factor <= largestFactor;
+}
+
+void chooseFormScale(double factor) {
+    qputenv(scaleFactor, QByteArray::number(factor));
 }

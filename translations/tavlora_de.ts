@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Tells the options.</source>
+        <translation>Nennt die Optionen.</translation>
+    </message>
+    <message>
+        <source>Tells the version.</source>
+        <translation>Nennt die Version.</translation>
+    </message>
+    <message>
+        <source>How many times as large as 240 x 320 the window is: a number from 1 to 8 in quarter steps, such as 2 or 1.75; or &quot;larger&quot; or &quot;smaller&quot; than by itself.</source>
+        <translation>Wievielmal so groß wie 240 x 320 das Fenster ist: eine Zahl von 1 bis 8 in Viertelschritten, etwa 2 oder 1.75; oder &quot;larger&quot; (größer) oder &quot;smaller&quot; (kleiner) als von selbst.</translation>
+    </message>
+    <message>
+        <source>factor</source>
+        <translation>Faktor</translation>
+    </message>
+    <message>
+        <source>Draughts against the computer or another person.
+The options of the Qt toolkit, such as -style and -platform, work as well.</source>
+        <translation>Dame gegen den Computer oder eine andere Person.
+Auch die Optionen von Qt wie -style und -platform gelten.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option; --help tells those there are.</source>
+        <translation>&apos;%1&apos; ist keine Option; --help nennt, welche es gibt.</translation>
+    </message>
+    <message>
+        <source>--scale takes a number from 1 to 8 in quarter steps, &quot;larger&quot; or &quot;smaller&quot;, and not &apos;%1&apos;.</source>
+        <translation>--scale nimmt eine Zahl von 1 bis 8 in Viertelschritten, &quot;larger&quot; oder &quot;smaller&quot;, und nicht &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
     <name>Draughts</name>
     <message>
         <source>White men: %1.</source>

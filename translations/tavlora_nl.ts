@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Tells the options.</source>
+        <translation>Vertelt de opties.</translation>
+    </message>
+    <message>
+        <source>Tells the version.</source>
+        <translation>Vertelt de versie.</translation>
+    </message>
+    <message>
+        <source>How many times as large as 240 x 320 the window is: a number from 1 to 8 in quarter steps, such as 2 or 1.75; or &quot;larger&quot; or &quot;smaller&quot; than by itself.</source>
+        <translation>Hoeveel maal zo groot als 240 x 320 het venster is: een getal van 1 tot 8 in stappen van een kwart, zoals 2 of 1.75; of &quot;larger&quot; (groter) of &quot;smaller&quot; (kleiner) dan vanzelf.</translation>
+    </message>
+    <message>
+        <source>factor</source>
+        <translation>factor</translation>
+    </message>
+    <message>
+        <source>Draughts against the computer or another person.
+The options of the Qt toolkit, such as -style and -platform, work as well.</source>
+        <translation>Dammen tegen de computer of tegen een andere speler.
+Ook de opties van Qt, zoals -style en -platform, werken.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option; --help tells those there are.</source>
+        <translation>&apos;%1&apos; is geen optie; --help vertelt welke er zijn.</translation>
+    </message>
+    <message>
+        <source>--scale takes a number from 1 to 8 in quarter steps, &quot;larger&quot; or &quot;smaller&quot;, and not &apos;%1&apos;.</source>
+        <translation>--scale neemt een getal van 1 tot 8 in stappen van een kwart, &quot;larger&quot; of &quot;smaller&quot;, en niet &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
     <name>Draughts</name>
     <message>
         <source>White men: %1.</source>

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Tells the options.</source>
+        <translation>Podaje opcje.</translation>
+    </message>
+    <message>
+        <source>Tells the version.</source>
+        <translation>Podaje wersję.</translation>
+    </message>
+    <message>
+        <source>How many times as large as 240 x 320 the window is: a number from 1 to 8 in quarter steps, such as 2 or 1.75; or &quot;larger&quot; or &quot;smaller&quot; than by itself.</source>
+        <translation>Ile razy okno jest większe niż 240 x 320: liczba od 1 do 8 co ćwierć, na przykład 2 lub 1.75; albo &quot;larger&quot; (większe) lub &quot;smaller&quot; (mniejsze) niż samo z siebie.</translation>
+    </message>
+    <message>
+        <source>factor</source>
+        <translation>krotność</translation>
+    </message>
+    <message>
+        <source>Draughts against the computer or another person.
+The options of the Qt toolkit, such as -style and -platform, work as well.</source>
+        <translation>Warcaby z komputerem lub z drugą osobą.
+Działają też opcje biblioteki Qt, takie jak -style i -platform.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option; --help tells those there are.</source>
+        <translation>&apos;%1&apos; nie jest opcją; --help podaje, jakie są.</translation>
+    </message>
+    <message>
+        <source>--scale takes a number from 1 to 8 in quarter steps, &quot;larger&quot; or &quot;smaller&quot;, and not &apos;%1&apos;.</source>
+        <translation>--scale przyjmuje liczbę od 1 do 8 co ćwierć, &quot;larger&quot; lub &quot;smaller&quot;, a nie &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
     <name>Draughts</name>
     <message>
         <source>White men: %1.</source>

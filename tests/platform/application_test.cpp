@@ -1,6 +1,7 @@
 // Programs from their application object on, the toolkit's own or ours; each test makes its own.
 
 #include "app/draughts.h"
+#include "platform/commandline.h"
 #include "platform/displaysetup.h"
 #include "platform/qpeapplication.h"
 #include "tests/platform/nextdialog.h"
@@ -35,7 +36,8 @@ using Environment = std::vector<std::pair<const char *, const char *>>;
 void expectOf(const Environment &user, QString (*tell)(), const std::string &told) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto run = [&] {
-        for (const char *variable : {"QT_FONT_DPI", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE"})
+        for (const char *variable :
+             {"QT_FONT_DPI", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_STYLE_OVERRIDE"})
             qunsetenv(variable);
         for (const auto &[variable, value] : user)
             qputenv(variable, value);
@@ -64,13 +66,29 @@ TEST(PlainApplication, BringsRealEventsAndBoxes) {
     EXPECT_TRUE(game.btnPrev->isEnabled()) << "cancelled: the game goes on";
 }
 
-TEST(FormScaleFactor, IsWholeAndFitsTheScreen) {
+TEST(FormScaleFactor, FitsTheScreenInQuarterSteps) {
+    constexpr WindowSize larger = WindowSize::Larger, smaller = WindowSize::Smaller;
     const struct {
         QSize screen;
-        int factor;
-    } cases[] = {{{240, 320}, 1}, {{480, 639}, 1}, {{480, 640}, 2}, {{2560, 1440}, 3}, {{0, 0}, 1}};
-    for (const auto &[screen, factor] : cases)
-        EXPECT_EQ(formScaleFactor(screen), factor) << screen.width() << " x " << screen.height();
+        int panel = 0; // pixels of height
+        WindowSize wish = WindowSize::Suitable;
+        double factor;
+    } cases[] = {{.screen = {240, 320}, .factor = 1},
+                 {.screen = {480, 640}, .factor = 2},
+                 {.screen = {1024, 600}, .factor = 1.75},
+                 {.screen = {800, 600}, .panel = 32, .factor = 1.5},
+                 {.screen = {2560, 1440}, .panel = 32, .factor = 3},
+                 {.screen = {0, 0}, .factor = 1},
+                 {.screen = {1024, 600}, .wish = larger, .factor = 1.75},
+                 {.screen = {1366, 768}, .wish = larger, .factor = 2.25},
+                 {.screen = {1920, 1080}, .wish = larger, .factor = 3},
+                 {.screen = {1920, 1080}, .wish = smaller, .factor = 1.25},
+                 {.screen = {240, 320}, .wish = smaller, .factor = 1}};
+    for (const auto &c : cases) {
+        const QSize free = c.screen - QSize(0, c.panel);
+        EXPECT_EQ(formScaleFactor(c.screen, free, c.wish), c.factor)
+            << c.screen.width() << " x " << c.screen.height();
+    }
 }
 
 QString look() {
@@ -83,10 +101,34 @@ QString look() {
 }
 
 // The offscreen platform's screen has 800 x 800 pixels.
-TEST(QPEApplication, PreparesTheDisplayButForWhatTheUserHasSet) {
+TEST(QPEApplication, PreparesTheDisplayWhateverTheDesktopHasSetButNotThePlayer) {
     expectOf({}, look, "scale 2, font of 9 points and 9 pixels, CompactStyle");
-    expectOf({{"QT_SCALE_FACTOR", "1"}, {"QT_FONT_DPI", "96"}, {"QT_STYLE_OVERRIDE", "Windows"}},
-             look, "scale 1, font of 9 points and 12 pixels, QWindowsStyle");
+    expectOf({{"QT_SCREEN_SCALE_FACTORS", "1"}, {"QT_FONT_DPI", "96"}}, look,
+             "scale 2, font of 9 points and 9 pixels, CompactStyle");
+    expectOf({{"QT_SCALE_FACTOR", "1"}, {"QT_STYLE_OVERRIDE", "Windows"}}, look,
+             "scale 1, font of 9 points and 9 pixels, QWindowsStyle");
+}
+
+TEST(CommandLine, ScalesTheGameOrEndsTheProgram) {
+    const struct {
+        std::vector<const char *> words;
+        std::optional<int> status = {};
+        const char *scale = "";
+    } cases[] = {{.words = {"--scale", "1.75"}, .scale = "1.75"},
+                 {.words = {"--scale", "larger"}, .scale = "2.25"}, // on 800 x 800
+                 {.words = {"-style", "windows"}},
+                 {.words = {"--help"}, .status = 0},
+                 {.words = {"--scale", "9"}, .status = 2},
+                 {.words = {"--fast"}, .status = 2},
+                 {.words = {"game"}, .status = 2}};
+    for (const auto &c : cases) {
+        qunsetenv("QT_SCALE_FACTOR");
+        std::vector<char *> given = {name};
+        for (const char *word : c.words)
+            given.push_back(const_cast<char *>(word));
+        EXPECT_EQ(obeyCommandLine(int(given.size()), given.data()), c.status) << c.words.back();
+        EXPECT_EQ(qgetenv("QT_SCALE_FACTOR"), c.scale) << c.words.back();
+    }
 }
 
 TEST(QPEApplication, TellsTheDesktopWhoTheProgramIs) {
