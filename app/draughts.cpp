@@ -100,7 +100,7 @@ void Draughts::createBoard() {
     pView->setAccessibleName(tr("Board"));
     connect(pView, &MyCanvasView::pieceWanted, this, &Draughts::moveCursorToPiece);
     connect(pView, &MyCanvasView::cancelled, this, &Draughts::cancelMove);
-    putFirst(pView);
+    orderControls(pView);
     placeView();
     pView->show();
 }

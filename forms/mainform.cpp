@@ -45,7 +45,6 @@ MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(paren
     setFonts();
     nameControls();
     giveKeys();
-    orderControls();
 }
 
 MainForm::~MainForm() = default;
@@ -192,15 +191,10 @@ void MainForm::giveKeys() {
     connect(quit, &QShortcut::activated, this, &QWidget::close);
 }
 
-void MainForm::putFirst(QWidget *board) {
-    setTabOrder(board, btnPrev);
-    orderControls();
-}
-
-// As the eye goes, whatever order they were made in.
-void MainForm::orderControls() {
-    const std::initializer_list<QWidget *> order = {btnPrev,  btnFwd,      btnAbout,
-                                                    btnForce, btnSettings, btnNewGame};
-    for (auto next = order.begin() + 1; next != order.end(); ++next)
-        setTabOrder(*(next - 1), *next);
+// Each is put right behind the board. Put behind one another they could stay where they are: the
+// toolkit leaves alone what follows on the other round the circle, though the window, where Tab
+// begins, lies between them.
+void MainForm::orderControls(QWidget *board) {
+    for (QWidget *control : {btnNewGame, btnSettings, btnForce, btnAbout, btnFwd, btnPrev})
+        setTabOrder(board, control);
 }

@@ -44,8 +44,9 @@ protected:
     bool event(QEvent *e) override;
     void keyPressEvent(QKeyEvent *e) override;
 
-    // Tab comes to `board` before all buttons.
-    void putFirst(QWidget *board);
+    // Tab comes to `board` first and then to the buttons as the eye goes, whatever order they were
+    // made in.
+    void orderControls(QWidget *board);
 
     // Where in the window the form's 240 x 320 pixels begin: (0, 0) unless it is larger.
     QPoint formOrigin() const;
@@ -59,7 +60,6 @@ private:
     void setFonts();
     void nameControls();
     void giveKeys();
-    void orderControls();
     void centreControls();
 
     QPoint controlsOrigin_; // the form's origin that the controls are placed for
