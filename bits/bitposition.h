@@ -110,11 +110,11 @@ struct BitPosition {
     BitPosition after(const BitMove<N> &m) const {
         const Bits from = Squares::bit(m.from);
         const Bits to = Squares::bit(m.to);
-        const bool king = (kings & from) != 0 || (to & Squares::template promotionRow<White>) != 0;
+        const Bits crowned = (kings & from) != 0 ? to : to & Squares::template promotionRow<White>;
         BitPosition next;
         next.white = White ? (white & ~from) | to : white & ~m.taken;
         next.black = White ? black & ~m.taken : (black & ~from) | to;
-        next.kings = (kings & ~from & ~m.taken) | (king ? to : 0);
+        next.kings = (kings & ~from & ~m.taken) | crowned;
         return next;
     }
 

@@ -45,7 +45,7 @@
 //
 // Whole-board questions are then a few instructions for all pieces at once: the targets of all
 // men's simple moves are `step(men, d) & empty`, the men that can jump in direction d are
-// `men & step(enemies & step(empty, back), back)`, with `back` the opposite of d.
+// `men & jumpFrom(enemies, empty, d)`.
 
 __extension__ typedef unsigned __int128 DoubleWord;
 
@@ -62,8 +62,8 @@ constexpr int lowestBit(std::uint64_t set) {
 }
 constexpr int lowestBit(DoubleWord set) {
     const auto low = static_cast<std::uint64_t>(set);
-    return low != 0 ? std::countr_zero(low)
-                    : 64 + std::countr_zero(static_cast<std::uint64_t>(set >> 64));
+    const auto high = static_cast<std::uint64_t>(set >> 64);
+    return low != 0 ? std::countr_zero(low) : 64 + std::countr_zero(high);
 }
 
 constexpr int highestBit(std::uint64_t set) {
@@ -109,6 +109,15 @@ constexpr int oppositeDirection(int d) {
     return (d + 2) % 4;
 }
 
+// Calls `use` with each direction as a type.
+template <class Use>
+[[gnu::always_inline]] inline void forEachDirection(Use use) {
+    use(std::integral_constant<int, 0>());
+    use(std::integral_constant<int, 1>());
+    use(std::integral_constant<int, 2>());
+    use(std::integral_constant<int, 3>());
+}
+
 template <int N>
 struct DarkSquares {
     static constexpr int half = N / 2;
@@ -116,7 +125,14 @@ struct DarkSquares {
     using Bits = std::conditional_t<bitCount <= 64, std::uint64_t, DoubleWord>;
 
     static constexpr int index(int x, int y) { return half * x + (x + y) / 2; }
-    static constexpr Bits bit(int i) { return Bits{1} << i; }
+    // Two words: a shift within one and a choice take less than a shift of both.
+    static constexpr Bits bit(int i) {
+        const std::uint64_t inWord = std::uint64_t{1} << (i & 63);
+        if constexpr (bitCount <= 64)
+            return inWord;
+        else
+            return i < 64 ? Bits{inWord} : Bits{inWord} << 64;
+    }
     static constexpr Bits square(int x, int y) { return bit(index(x, y)); }
 
     // The set moved one step in direction d; squares may leave the board, see above.
@@ -130,6 +146,16 @@ struct DarkSquares {
             return set >> (half + 1);
         else
             return set >> half;
+    }
+    // By how much one step in direction d changes a square's index.
+    static constexpr int stride(int d) {
+        return d == 0 ? half + 1 : d == 1 ? half : d == 2 ? -half - 1 : -half;
+    }
+    // The squares from which a piece of `prey` is jumped in direction d onto a square of `free`.
+    template <int d>
+    static constexpr Bits jumpFrom(Bits prey, Bits free) {
+        constexpr int back = oppositeDirection(d);
+        return step<back>(prey & step<back>(free));
     }
     // The diagonal neighbours of the set.
     static constexpr Bits around(Bits set) {

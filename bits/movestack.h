@@ -20,6 +20,15 @@ public:
             grow();
         moves_[size_++] = move;
     }
+    // Makes room for `count` more moves and returns the place of the first, to be written before
+    // anything else is asked of the stack.
+    Move *room(std::size_t count) {
+        while (capacity_ - size_ < count)
+            grow();
+        return moves_.get() + size_;
+    }
+    // Takes in the moves that were written from room() up to `end`.
+    void extendTo(const Move *end) { size_ = static_cast<std::size_t>(end - moves_.get()); }
     // Drops everything from index `size` on.
     void cut(std::size_t size) { size_ = size; }
 

@@ -85,8 +85,9 @@ std::string saidByBits(EngineRig &rig) {
     BitMoveGenerator<N, Form::rules, White> generator(position);
     MoveStack<BitMove<N>> captures;
     auto report = std::make_unique<CaptureLimitScope>();
+    ListingWatch unwatched;
     if (generator.canCapture())
-        generator.listCaptures(captures);
+        generator.listCaptures(captures, unwatched);
     report.reset();
     tellMoves(captures, captures.size());
     MoveStack<BitMove<N>> quiet;

@@ -62,10 +62,11 @@ public:
 void listOverBits(benchmark::State &state, Kind kind) {
     const Position p(positionOf(kind));
     MoveStack<BitMove<size>> stack;
+    ListingWatch unwatched;
     while (state.KeepRunning()) {
         Generator generator(p);
         if (generator.canCapture())
-            generator.listCaptures(stack);
+            generator.listCaptures(stack, unwatched);
         else
             generator.listQuiet(stack);
         benchmark::DoNotOptimize(stack.size());

@@ -26,32 +26,47 @@ public:
 
 private:
     template <bool White>
+    using Generator = BitMoveGenerator<N, Rules, White>;
+
+    template <bool White>
     quint64 count(const BitPosition<N> &p, int depth) {
-        BitMoveGenerator<N, Rules, White> generator(p);
-        const std::size_t first = stack_.size();
-        if (generator.canCapture())
-            listCaptures(generator);
-        if (stack_.size() == first) {
-            if (depth == 1)
-                return static_cast<quint64>(generator.countQuiet());
-            generator.listQuiet(stack_);
-        }
-        const std::size_t end = stack_.size();
-        quint64 positions = depth == 1 ? end - first : 0;
-        for (std::size_t i = first; depth > 1 && i < end; ++i)
-            positions += count<!White>(p.template after<White>(stack_[i]), depth - 1);
-        stack_.cut(first);
+        const quint64 positions = depth == 1 ? countMoves<White>(p) : countBelow<White>(p, depth);
         if (depth == progressDepth)
             report(positions);
         return positions;
     }
 
-    template <class Generator>
-    void listCaptures(Generator &generator) {
+    // Quiet moves are counted, not listed.
+    template <bool White>
+    quint64 countMoves(const BitPosition<N> &p) {
+        Generator<White> generator(p);
+        const std::size_t captures = generator.canCapture() ? listCaptures(generator) : 0;
+        stack_.cut(stack_.size() - captures);
+        return captures > 0 ? captures : static_cast<quint64>(generator.countQuiet());
+    }
+
+    template <bool White>
+    quint64 countBelow(const BitPosition<N> &p, int depth) {
         const std::size_t first = stack_.size();
-        generator.listCaptures(stack_);
+        Generator<White> generator(p);
+        if (!generator.canCapture() || listCaptures(generator) == 0)
+            generator.listQuiet(stack_);
+        quint64 positions = 0;
+        const std::size_t end = stack_.size();
+        for (std::size_t i = first; i < end; ++i)
+            positions += count<!White>(p.template after<White>(stack_[i]), depth - 1);
+        stack_.cut(first);
+        return positions;
+    }
+
+    // Returns their number. Captures beyond the limit are dropped, possibly all of them.
+    template <class Moves>
+    std::size_t listCaptures(const Moves &generator) {
+        const std::size_t first = stack_.size();
+        generator.listCaptures(stack_, unwatched_);
         if (distinct_)
             dropOtherRoutes(first);
+        return stack_.size() - first;
     }
 
     void dropOtherRoutes(std::size_t first) {
@@ -80,6 +95,7 @@ private:
     const bool distinct_;
     const Perft::Progress &progress_;
     MoveStack<BitMove<N>> stack_;
+    ListingWatch unwatched_;
     quint64 counted_ = 0;
 };
 
