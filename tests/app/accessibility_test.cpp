@@ -38,7 +38,7 @@ TEST_F(GameTest, SettingsAreReachedAndChosenByKeyboardAlone) {
     whileOpen(
         &dialog,
         [this] {
-            keys(game, {Key_Tab, Key_Tab, Key_Space});
+            keys(game, {Key_Tab, Key_Tab, Key_Return});
         },
         choose);
     EXPECT_EQ(request(), "AmEngine, depth 2, noise 400, give-away");

@@ -172,15 +172,12 @@ bool Monkey::eventFilter(QObject *watched, QEvent *event) {
             noteClick(watched->parent()->objectName().mid(3).toStdString());
         break;
     case QEvent::KeyPress:
-        if (watched == window_->pView)
-            watchBoard(*static_cast<QKeyEvent *>(event));
-        else if (watched == window_.get())
-            watchForm(*static_cast<QKeyEvent *>(event));
+        watchKey(watched, *static_cast<QKeyEvent *>(event));
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (watched == window_->pView->viewport())
-            watchBoard(*static_cast<QMouseEvent *>(event));
+            watchBoard(event);
         break;
     default:
         break;
@@ -203,10 +200,17 @@ void Monkey::watchButton(const QPushButton &button, const QEvent *event) {
         noteClick(button.objectName().mid(3).toStdString());
 }
 
-// Where Return comes to when the button that has the focus leaves it alone.
-void Monkey::watchForm(const QKeyEvent &key) {
+// The board taps its cursor's square; to the window Return comes from a button that has no use for
+// it.
+void Monkey::watchKey(const QObject *receiver, const QKeyEvent &key) {
+    const bool isPress =
+        (key.key() == Qt::Key_Return || key.key() == Qt::Key_Space) && !key.isAutoRepeat();
     const auto *button = qobject_cast<QPushButton *>(window_->focusWidget());
-    if (key.key() == Qt::Key_Return && !key.isAutoRepeat() && button != nullptr)
+    if (receiver == window_->pView && key.key() == Qt::Key_Escape)
+        model_.cancel();
+    else if (receiver == window_->pView && isPress)
+        noteTap(window_->pView->cursorSquare());
+    else if (receiver == window_.get() && isPress && button != nullptr)
         noteClick(button->objectName().mid(3).toStdString());
 }
 
@@ -215,16 +219,8 @@ void Monkey::noteClick(const std::string &button) {
     model_.click(button);
 }
 
-void Monkey::watchBoard(const QKeyEvent &key) {
-    const bool taps = key.key() == Qt::Key_Space || key.key() == Qt::Key_Return;
-    if (key.key() == Qt::Key_Escape)
-        model_.cancel();
-    else if (taps && !key.isAutoRepeat())
-        noteTap(window_->pView->cursorSquare());
-}
-
-void Monkey::watchBoard(const QMouseEvent &press) {
-    const QPointF at = press.position();
+void Monkey::watchBoard(const QEvent *event) {
+    const QPointF at = static_cast<const QMouseEvent *>(event)->position();
     const int side = window_->pMetrics->SquareWidthB();
     const int n = model_.squares();
     const XY square(static_cast<int>(std::floor(at.x() / side)),

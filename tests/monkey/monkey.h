@@ -14,7 +14,6 @@
 #include <memory>
 
 class QKeyEvent;
-class QMouseEvent;
 class QPushButton;
 
 // What all runs together have seen, and how often.
@@ -66,9 +65,8 @@ private:
     void runDialog(QDialog *dialog);
     void leaveSettings(bool accepted);
     void watchButton(const QPushButton &button, const QEvent *event);
-    void watchForm(const QKeyEvent &key);
-    void watchBoard(const QMouseEvent &press);
-    void watchBoard(const QKeyEvent &key);
+    void watchKey(const QObject *receiver, const QKeyEvent &key);
+    void watchBoard(const QEvent *event);
     void noteTap(const XY &square);
     void noteClick(const std::string &button);
 

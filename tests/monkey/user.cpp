@@ -121,14 +121,7 @@ struct User::Gestures {
     QPoint middle(const QWidget &widget) const {
         return widget.mapTo(&game, widget.rect().center());
     }
-    // By its name where the board has the keyboard.
     void tap(const XY &square) {
-        if (game.pView->hasFocus() && dice.oneIn(2)) {
-            for (const QChar letter : squareName(square).toUpper())
-                Hand::type(&game, static_cast<Qt::Key>(letter.unicode()));
-            Hand::type(&game, Qt::Key_Return);
-            return;
-        }
         const boardMetrics &m = *game.pMetrics;
         const QPoint at(m.BxToScr(square.x) + dice.below(m.SquareWidthB()),
                         m.ByToScr(square.y) + dice.below(m.SquareHeightB()));

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <cmath>
 
@@ -158,4 +159,32 @@ TEST_F(BoardTest, PressesBecomePlayingSquares) {
     EXPECT_EQ(press({223, 0}), QVariantList({7, 7, false}));
     EXPECT_EQ(press({225, 30}), QVariantList());
     EXPECT_EQ(press({30, 225}), QVariantList());
+}
+
+// On 12 x 12 squares, which have names with two digits.
+TEST_F(BoardTest, KeysMoveTheCursorAsSeen) {
+    metrics.size = 12;
+    const struct {
+        const char *from;
+        Qt::Key key;
+        const char *to, *onFlippedBoard;
+    } cases[] = {
+        {.from = "c3", .key = Qt::Key_Left, .to = "a3", .onFlippedBoard = "e3"},
+        {.from = "b10", .key = Qt::Key_Right, .to = "d10", .onFlippedBoard = "b10"},
+        {.from = "c3", .key = Qt::Key_Up, .to = "d4", .onFlippedBoard = "d2"},
+        {.from = "d4", .key = Qt::Key_Down, .to = "c3", .onFlippedBoard = "c5"},
+        {.from = "c11", .key = Qt::Key_Home, .to = "a11", .onFlippedBoard = "k11"},
+        {.from = "d4", .key = Qt::Key_End, .to = "l4", .onFlippedBoard = "b4"},
+        {.from = "c3", .key = Qt::Key_PageUp, .to = "d12", .onFlippedBoard = "c1"},
+        {.from = "d12", .key = Qt::Key_PageDown, .to = "c1", .onFlippedBoard = "d12"},
+    };
+    for (const auto &c : cases) {
+        for (const bool flipped : {false, true}) {
+            metrics.flipBoard(flipped);
+            QTest::keyClicks(&view, c.from);
+            QTest::keyClick(&view, c.key);
+            const std::string reached = squareName(view.cursorSquare()).toStdString();
+            EXPECT_EQ(reached, flipped ? c.onFlippedBoard : c.to) << "from " << c.from;
+        }
+    }
 }
