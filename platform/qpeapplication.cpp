@@ -5,6 +5,7 @@
 #include "platform/guihost.h"
 #include "platform/programidentity.h"
 
+#include <QEvent>
 #include <QFont>
 
 namespace {
@@ -25,8 +26,21 @@ QPEApplication::QPEApplication(int &argc, char **argv, Type)
     identifyProgram();
     if (!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE"))
         setStyle(new CompactStyle);
-    QFont defaultFont = font();
-    defaultFont.setPointSize(defaultPointSize);
-    setFont(defaultFont);
+    keepPointSize();
     installEventFilter(&dialogControls_);
+}
+
+bool QPEApplication::event(QEvent *e) {
+    const bool handled = QApplication::event(e);
+    if (e->type() == QEvent::ApplicationFontChange)
+        keepPointSize();
+    return handled;
+}
+
+void QPEApplication::keepPointSize() {
+    QFont ours = font();
+    if (ours.pointSize() == defaultPointSize)
+        return;
+    ours.setPointSize(defaultPointSize);
+    setFont(ours);
 }

@@ -8,9 +8,10 @@
 #include <QApplication>
 
 // Makes a desktop fit for the forms: prepares the display (see displaysetup.h), tells the desktop
-// who the program is (see programidentity.h), takes a 9 point default font and a compact style,
-// gives modal form dialogs their controls (see dialogcontrols.h), speaks the user's language (see
-// translations.h) and provides real boxes (see guihost.h).
+// who the program is (see programidentity.h), takes a compact style and 9 points for the default
+// font (also for one that the desktop's theme brings later), gives modal form dialogs their
+// controls (see dialogcontrols.h), speaks the user's language (see translations.h) and provides
+// real boxes (see guihost.h).
 class QPEApplication : public QApplication {
     Q_OBJECT
 
@@ -21,7 +22,12 @@ public:
     // `argc` and `argv` must outlive the application.
     QPEApplication(int &argc, char **argv, Type type = GuiClient);
 
+protected:
+    bool event(QEvent *e) override;
+
 private:
+    void keepPointSize();
+
     DialogControls dialogControls_;
     Translations translations_;
 };

@@ -48,7 +48,7 @@ QString inWords(const QWidget &widget) {
             QStringLiteral(" at %1,%2 ").arg(widget.x()).arg(widget.y()) + inWords(widget.size());
     if (inWords(widget.maximumSize()) != "any")
         words += " max " + inWords(widget.maximumSize());
-    if (widget.font().pointSize() != QApplication::font().pointSize())
+    if (widget.font().pointSize() != QApplication::font(&widget).pointSize())
         words += QStringLiteral(" %1pt").arg(widget.font().pointSize());
     if (widget.font().bold())
         words += " bold";
@@ -79,32 +79,33 @@ QString formInWords(const QWidget &form) {
     return words + '\n';
 }
 
-QString inWords(std::initializer_list<const QWidget *> forms) {
+QString inWords(std::initializer_list<QWidget *> forms) {
     QStringList words;
     for (const QWidget *form : forms)
         words << formInWords(*form);
     return words.join('\n');
 }
 
-// In a font of the application's that is none of theirs.
+// In a font that is none of theirs; the widgets', as the application's keeps its size.
 TEST(Forms, AreBuiltAsToldAndStaySoInAnotherFont) {
     const QFont usual = QApplication::font();
-    QApplication::setFont(QFont(usual.family(), 14));
-    const MainForm game;
-    const formsettings settings;
-    const formStat figures;
-    const fabout about;
-    const std::initializer_list<const QWidget *> forms = {&game, &settings, &figures, &about};
+    QApplication::setFont(QFont(usual.family(), 14), "QWidget");
+    MainForm game;
+    formsettings settings;
+    formStat figures;
+    fabout about;
+    const std::initializer_list<QWidget *> forms = {&game, &settings, &figures, &about};
     QFile file(TEST_DATA "/forms.txt");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString told = file.readAll();
     EXPECT_EQ(inWords(forms).toStdString(), told.toStdString());
-    for (const QWidget *form : forms) {
+    QApplication::setFont(QFont(usual.family(), 20), "QWidget");
+    for (QWidget *form : forms) {
         for (QWidget *widget : form->findChildren<QWidget *>())
             widget->setFont(QFont()); // forgets what is its own
+        QEvent change(QEvent::ApplicationFontChange);
+        QCoreApplication::sendEvent(form, &change);
     }
-    QApplication::setFont(QFont(usual.family(), 20));
-    QApplication::processEvents(); // the change is told then
     EXPECT_EQ(inWords(forms).toStdString(), told.toStdString());
     QApplication::setFont(usual);
 }

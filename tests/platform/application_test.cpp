@@ -109,6 +109,15 @@ TEST(QPEApplication, PreparesTheDisplayWhateverTheDesktopHasSetButNotThePlayer) 
              "scale 1, font of 9 points and 9 pixels, QWindowsStyle");
 }
 
+TEST(QPEApplication, KeepsItsPointsInAFontThatIsSetLater) {
+    const QPEApplication program(count, arguments);
+    const QWidget window;
+    QApplication::setFont(QFont("DejaVu Serif", 18));
+    QApplication::processEvents(); // the change is told then
+    EXPECT_EQ(window.font().pointSize(), 9);
+    EXPECT_EQ(window.font().family().toStdString(), "DejaVu Serif");
+}
+
 TEST(CommandLine, ScalesTheGameOrEndsTheProgram) {
     const struct {
         std::vector<const char *> words;
