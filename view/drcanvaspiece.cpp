@@ -28,6 +28,12 @@ void drawDisc(QPainter &p, const QRect &box) {
     p.drawPath(disc);
 }
 
+// On a screen of more pixels than the canvas, edges are smooth; pixel for pixel they are as clear
+// as the squares'.
+void smoothEdges(QPainter &p, bool wanted) {
+    p.setRenderHint(QPainter::Antialiasing, wanted && p.deviceTransform().m11() > 1);
+}
+
 void drawLine(QPainter &p, const QPoint &from, const QPoint &to) {
     QPainterPath line(from);
     line.lineTo(to);
@@ -144,6 +150,7 @@ void DrCanvasPiece::draw(QPainter &p) {
     }
     const QPen savedPen = p.pen();
     const QRect square = boundingRect();
+    smoothEdges(p, true);
     p.setPen(Qt::NoPen);
     p.setBrush((type & codeWhite) != 0 ? Qt::white : Qt::black);
     drawDisc(p, inset(square, w / 7, h / 7));
@@ -154,6 +161,7 @@ void DrCanvasPiece::draw(QPainter &p) {
     if ((type & codeTaken) != 0)
         drawCross(p, square);
     p.setPen(savedPen);
+    smoothEdges(p, false);
 }
 
 void DrCanvasPiece::drawCross(QPainter &p, const QRect &square) const {

@@ -44,6 +44,18 @@ struct BoardTest : testing::Test {
         const QPoint at(bx * 23 + dx, (9 - by) * 23 + dy);
         return view.viewport()->grab().toImage().pixelColor(at).name().toStdString();
     }
+    // All colours there are on a screen of `scale` pixels a canvas pixel.
+    std::set<std::string> colours(double scale) {
+        QImage screen((QSizeF(230, 230) * scale).toSize(), QImage::Format_RGB32);
+        screen.setDevicePixelRatio(scale);
+        view.viewport()->render(&screen);
+        std::set<std::string> found;
+        for (int at = 0; at < screen.width() * screen.height(); ++at) {
+            const QPoint pixel(at % screen.width(), at / screen.width());
+            found.insert(screen.pixelColor(pixel).name().toStdString());
+        }
+        return found;
+    }
 };
 
 // A fifth of a square's diagonal a step, and one step more to end the leg.
@@ -111,6 +123,19 @@ TEST_F(BoardTest, PiecesAreDiscsWithCentreAndCrossUntilDeleted) {
     }
     delete piece;
     EXPECT_EQ(colour(2, 2, 11, 11), "#767676");
+}
+
+TEST_F(BoardTest, NothingShowsBetweenTheSquaresAtQuarterSteps) {
+    const std::set<std::string> squares = {"#000000", "#767676", "#8a8a8a"};
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 2.25})
+        EXPECT_EQ(colours(scale), squares) << scale;
+}
+
+TEST_F(BoardTest, PiecesHaveSmoothEdgesWhereTheScreenIsFiner) {
+    place(whiteMan, 2, 2);
+    EXPECT_EQ(colours(1), (std::set<std::string>{"#000000", "#767676", "#8a8a8a", "#ffffff"}));
+    for (const double scale : {1.25, 2.0})
+        EXPECT_GT(colours(scale).size(), 8) << scale;
 }
 
 TEST_F(BoardTest, PieceWithoutACodeReportsItselfAndIsNotDrawn) {
