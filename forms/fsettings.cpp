@@ -1,12 +1,12 @@
 #include "forms/fsettings.h"
 
+#include "forms/chooser.h"
 #include "forms/formfonts.h"
 #include "rules/boardsizes.h"
 #include "rules/ruleset.h"
 #include "search/levels.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -67,8 +67,9 @@ QLabel *fsettings::addLabel(const char *name, const QString &text) {
     return label;
 }
 
-QComboBox *fsettings::addCombo(const char *name, const QStringList &items, const QString &toolTip) {
-    auto *combo = new QComboBox(this);
+QComboBox *fsettings::addCombo(const char *name, const QLabel *label, const QStringList &items,
+                               const QString &toolTip) {
+    auto *combo = new Chooser(label->text(), this);
     combo->setObjectName(QString::fromLatin1(name));
     combo->setEditable(false);
     combo->addItems(items);
@@ -83,29 +84,28 @@ QHBoxLayout *fsettings::addRow(QLabel *label, QComboBox *combo) {
     formLayout->addLayout(row);
     row->addWidget(label);
     row->addWidget(combo);
-    label->setBuddy(combo);
     return row;
 }
 
 void fsettings::addRulesAndSize() {
     TextLabel1_2 = addLabel("TextLabel1_2", tr("Rules"));
-    cmbRules = addCombo("cmbRules", namesOf(ruleRows), tr("game rules"));
+    cmbRules = addCombo("cmbRules", TextLabel1_2, namesOf(ruleRows), tr("game rules"));
     rulesLayout = addRow(TextLabel1_2, cmbRules);
 
     TextLabel1_2_2 = addLabel("TextLabel1_2_2", tr("Board Size"));
-    cmbSize = addCombo("cmbSize", namesOf(boardSizes), tr("board size"));
+    cmbSize = addCombo("cmbSize", TextLabel1_2_2, namesOf(boardSizes), tr("board size"));
     sizeLayout = addRow(TextLabel1_2_2, cmbSize);
 }
 
 void fsettings::addLevelAndPlayers() {
     TextLabel1 = addLabel("TextLabel1", tr("level"));
-    cmbLevel = addCombo("cmbLevel", namesOf(levels), tr("thinking level"));
+    cmbLevel = addCombo("cmbLevel", TextLabel1, namesOf(levels), tr("thinking level"));
     levelLayout = addRow(TextLabel1, cmbLevel);
 
     TextLabelP = addLabel("TextLabelP", tr("Players"));
     cmbPlayers =
-        addCombo("cmbPlayers", {tr("Human-Computer"), tr("Human-Human"), tr("Computer-Computer")},
-                 QString());
+        addCombo("cmbPlayers", TextLabelP,
+                 {tr("Human-Computer"), tr("Human-Human"), tr("Computer-Computer")}, QString());
     playersLayout = addRow(TextLabelP, cmbPlayers);
 }
 

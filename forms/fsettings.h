@@ -51,7 +51,8 @@ protected:
 
 private:
     QLabel *addLabel(const char *name, const QString &text);
-    QComboBox *addCombo(const char *name, const QStringList &items, const QString &toolTip);
+    QComboBox *addCombo(const char *name, const QLabel *label, const QStringList &items,
+                        const QString &toolTip);
     QHBoxLayout *addRow(QLabel *label, QComboBox *combo);
     void addRulesAndSize();
     void addLevelAndPlayers();

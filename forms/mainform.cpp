@@ -1,5 +1,7 @@
 #include "forms/mainform.h"
 
+#include "forms/accessiblewindow.h"
+#include "forms/announcer.h"
 #include "forms/formfonts.h"
 #include "platform/displaysetup.h"
 
@@ -38,7 +40,9 @@ void addKeys(QPushButton *button, const QList<QKeySequence> &keys) {
 
 } // namespace
 
-MainForm::MainForm(QWidget *parent, const char *name, WFlags fl) : QWidget(parent, fl) {
+MainForm::MainForm(QWidget *parent, const char *name, WFlags fl)
+    : QWidget(parent, fl), announcer(new Announcer(this)) {
+    installAccessibleWindow();
     setUpWindow(name);
     addUpperRow();
     addLowerRow();

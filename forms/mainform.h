@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class Announcer;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -37,6 +38,7 @@ public:
     QLabel *labelScore;
     QLabel *lblThinking;
     QHBoxLayout *Layout8;
+    Announcer *announcer; // for those who hear the window
 
 protected:
     // Sets the children's fonts again when the application's font changes, and keeps the controls

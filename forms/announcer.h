@@ -1,0 +1,37 @@
+// Announcer: what a screen reader is to say of its own accord.
+#ifndef FORMS_ANNOUNCER_H
+#define FORMS_ANNOUNCER_H
+
+#include <QObject>
+#include <QStringList>
+
+class QWidget;
+
+// A notification in the accessible tree of a window, of which it is a child without a place on the
+// screen. The toolkit has no announcements yet; what screen readers speak all the same is a
+// notification that begins to show. What happens is noted and told in one go when the player can
+// act on it: readers drop what they are saying for the next announcement.
+class Announcer : public QObject {
+    Q_OBJECT
+
+public:
+    // Belongs to the window, whose accessible interface has to list it as a child.
+    explicit Announcer(QWidget *window);
+
+    // Kept for the next announcement.
+    void note(const QString &sentence) { notes_ << sentence; }
+    // Says the notes and then this.
+    void announce(const QString &sentence);
+    // As announce(), but without notes it does not say the same again.
+    void remind(const QString &sentence);
+
+    // The last announcement.
+    QString text() const { return text_; }
+
+private:
+    QStringList notes_;
+    QString sentence_; // what `text_` ends with
+    QString text_;
+};
+
+#endif
