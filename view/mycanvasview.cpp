@@ -1,6 +1,7 @@
 #include "view/mycanvasview.h"
 
 #include "view/boardmetrics.h"
+#include "view/boardtable.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -60,6 +61,8 @@ QRect fillFrame(QPainter &painter, const QRect &outer, int width, Qt::GlobalColo
 MyCanvasView::MyCanvasView(QCanvas *canvas, QWidget *parent, boardMetrics *m)
     : QCanvasView(canvas, parent), metrics(m) {
     setFocusPolicy(Qt::TabFocus);
+    BoardTable::install();
+    connect(this, &MyCanvasView::cursorMoved, this, &MyCanvasView::tellFocus);
     resize();
 }
 
@@ -157,6 +160,8 @@ void MyCanvasView::focusInEvent(QFocusEvent *e) {
     if (comesByKey(*e))
         showCursor(true);
     QCanvasView::focusInEvent(e);
+    // The toolkit tells of the board itself first, and only after this event.
+    QMetaObject::invokeMethod(this, &MyCanvasView::tellFocus, Qt::QueuedConnection);
     viewport()->update();
 }
 
@@ -193,4 +198,18 @@ void MyCanvasView::drawForeground(QPainter *painter, const QRectF &rect) {
     const QRect inside = fillFrame(*painter, square, qRound(framePixels * scale), frameColour);
     fillFrame(*painter, inside, qRound(edgePixels * scale), frameEdge);
     painter->restore();
+}
+
+SquareReport MyCanvasView::report(XY square) const {
+    return reader_ ? reader_(square) : SquareReport();
+}
+
+void MyCanvasView::tellSquares() {
+    if (BoardTable *const table = BoardTable::of(this))
+        table->tellChanges();
+}
+
+void MyCanvasView::tellFocus() {
+    if (BoardTable *const table = BoardTable::of(this))
+        table->tellFocus();
 }

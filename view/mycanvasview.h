@@ -4,6 +4,7 @@
 
 #include "platform/qcanvasview.h"
 #include "view/boardcursor.h"
+#include "view/squarereport.h"
 
 class boardMetrics;
 
@@ -36,6 +37,16 @@ public:
     // Other squares than playing squares of the board are ignored.
     void moveCursor(XY square);
 
+    // Where a square lies, in the viewport's pixels.
+    QRect squareRect(XY square) const;
+    const boardMetrics *shownMetrics() const { return metrics; }
+
+    // For those who do not see the board: who tells of its squares, and that they have changed.
+    // Without a reader the squares have no names.
+    void setSquareReader(SquareReader reader) { reader_ = std::move(reader); }
+    SquareReport report(XY square) const;
+    void tellSquares();
+
 signals:
     // A playing square of the board was pressed, with the right button or another, or tapped by
     // key.
@@ -61,10 +72,11 @@ private:
     bool work(const QKeyEvent &key);
     bool type(const QKeyEvent &key);
     void showCursor(bool byKey);
-    QRect squareRect(XY square) const;
+    void tellFocus();
 
     XY cursor_;
     TypedSquare typed_;
+    SquareReader reader_;
     bool byKey_ = false; // the cursor is shown while the view has the focus
 };
 
