@@ -3,12 +3,15 @@
 #include "app/draughts.h"
 
 #include "app/gamehist.h"
+#include "app/inwords.h"
 #include "base/host.h"
+#include "forms/announcer.h"
 #include "rules/board.h"
 #include "rules/legalmove.h"
 #include "view/boardmetrics.h"
 #include "view/drcanvas.h"
 #include "view/drcanvaspiece.h"
+#include "view/mycanvasview.h"
 
 #include <utility>
 
@@ -19,6 +22,7 @@ void Draughts::AnimateLegalMove(LegalMove *m) {
                           QStringLiteral("no move given"));
         return;
     }
+    announcer->note(moveInWords(*pBoard, *m));
     enter(Phase::Flying);
     for (const XY &square : m->taken) {
         unsigned char &code = pBoard->Get(square);
@@ -31,6 +35,7 @@ void Draughts::AnimateLegalMove(LegalMove *m) {
         danceTo->append(m->path[i]);
     pMove = m;
     pieces[m->from().x][m->from().y]->setDanceTo(danceTo.get());
+    pView->tellSquares();
 }
 
 void Draughts::AfterDance() {

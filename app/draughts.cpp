@@ -4,6 +4,7 @@
 
 #include "app/gamehist.h"
 #include "base/host.h"
+#include "forms/announcer.h"
 #include "forms/fabout.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"
@@ -57,6 +58,7 @@ Draughts::Draughts(QWidget *parent, const char *name)
 }
 
 Draughts::~Draughts() {
+    pView->setSquareReader({});
     pBoard.reset();
     pCanvas.reset();
     pStat.reset();
@@ -101,6 +103,7 @@ void Draughts::createBoard() {
     connect(pView, &MyCanvasView::pieceWanted, this, &Draughts::moveCursorToPiece);
     connect(pView, &MyCanvasView::cancelled, this, &Draughts::cancelMove);
     orderControls(pView);
+    pView->setSquareReader([this](XY square) { return reportSquare(square); });
     placeView();
     pView->show();
 }
@@ -156,6 +159,7 @@ void Draughts::newGame() {
         return;
     if (isBusy()) // closed with the box open
         return;
+    announcer->note(tr("New game."));
     pHist->clear();
     pStat->newGame();
     setPlayers(false, true);

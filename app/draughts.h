@@ -6,6 +6,7 @@
 #include "eval/squaresvalue.h"
 #include "forms/mainform.h"
 #include "rules/xy.h"
+#include "view/squarereport.h"
 
 #include <QPointer>
 
@@ -194,7 +195,6 @@ private:
 
     // Turn flow.
     void handOver();
-    void describeBoard();
     bool isComputersTurn() const;
     LegalMove *searchMove();
     void giveTurnToPlayer();
@@ -206,6 +206,15 @@ private:
     void playMove(LegalMove *move);
     void enableSteps();
     void restorePosition();
+
+    // For those who hear the game.
+    void describeBoard();
+    SquareReport reportSquare(XY square) const;
+    bool canMove(XY square) const;
+    QList<XY> movingPieces() const;
+    QString offer() const;
+    QString refusal() const;
+    QString winner() const;
 
     Phase phase_ = Phase::HandOver;
     Phase interrupted_ = Phase::HandOver; // of a closed window: the phase it resumes in

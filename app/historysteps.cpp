@@ -3,6 +3,7 @@
 #include "app/draughts.h"
 
 #include "app/gamehist.h"
+#include "forms/announcer.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"
 #include "view/drcanvas.h"
@@ -21,6 +22,7 @@ void Draughts::histPrev() {
     }
     btnForce->setEnabled(true);
     enableSteps();
+    announcer->note(tr("One move back."));
     restorePosition();
 }
 
@@ -32,6 +34,7 @@ void Draughts::histFwd() {
     if (!stepped)
         return;
     enableSteps();
+    announcer->note(tr("One move forward."));
     restorePosition();
 }
 

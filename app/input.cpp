@@ -2,6 +2,7 @@
 
 #include "app/draughts.h"
 
+#include "forms/announcer.h"
 #include "forms/fabout.h"
 #include "rules/board.h"
 #include "search/abstractengine.h"
@@ -28,10 +29,13 @@ void Draughts::userInput(int x, int y, bool) {
         playMove(pEngine->getLegalMove(match));
         return;
     }
+    const QString answer = match < 0 ? refusal() : offer();
     if (match < 0) {
         selection.resize(0);
         markSquares(0);
     }
+    pView->tellSquares();
+    announcer->announce(answer);
 }
 
 void Draughts::cancelMove() {
@@ -40,15 +44,14 @@ void Draughts::cancelMove() {
     selection.resize(0);
     targets.resize(0);
     markSquares(0);
+    pView->tellSquares();
+    announcer->announce(tr("The move is given up."));
 }
 
 void Draughts::moveCursorToPiece(bool next) {
     if (phase_ != Phase::Waiting)
         return;
-    QList<XY> movable;
-    for (const LegalMove &move : *pEngine->getMoveList())
-        movable << move.from();
-    pView->moveCursor(nextStop(*pMetrics, pView->cursorSquare(), movable, next));
+    pView->moveCursor(nextStop(*pMetrics, pView->cursorSquare(), movingPieces(), next));
 }
 
 // The index of a legal move that begins with the squares tapped so far, -1 when there is none, and

@@ -88,6 +88,7 @@ void Draughts::enter(Phase phase) {
         keepFocus();
     showControls();
     connectControls();
+    pView->tellSquares();
 }
 
 void Draughts::showControls() {

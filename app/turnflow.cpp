@@ -2,9 +2,9 @@
 
 #include "app/draughts.h"
 
-#include "app/boarddescription.h"
 #include "app/gamehist.h"
 #include "base/host.h"
+#include "forms/announcer.h"
 #include "forms/formsettings.h"
 #include "rules/board.h"
 #include "search/abstractengine.h"
@@ -51,13 +51,6 @@ void Draughts::handOver() {
         waitUser();
 }
 
-// The toolkit announces every setting, also of what is there already.
-void Draughts::describeBoard() {
-    const QString description = boardDescription(*pBoard);
-    if (pView->accessibleDescription() != description)
-        pView->setAccessibleDescription(description);
-}
-
 bool Draughts::isComputersTurn() const {
     return (pBoard->whiteToMove ? whiteComputer : blackComputer) == 1;
 }
@@ -89,6 +82,7 @@ LegalMove *Draughts::searchMove() {
     BestLine line;
     lblThinking->setText(tr("*** THINKING ***"));
     enter(Phase::Thinking);
+    announcer->announce(tr("The computer thinks."));
     return pEngine->getBestMove(score, line);
 }
 
@@ -111,11 +105,13 @@ void Draughts::waitUser() {
     }
     lblThinking->setText(pEngine->isCapture() ? tr("You Must Capture") : tr("Your Move"));
     enter(Phase::Waiting);
+    announcer->remind(lblThinking->text());
     giveBackFocus();
 }
 
 void Draughts::gameOver() {
     enter(Phase::Over);
+    announcer->announce(winner());
     host().messageBox(BoxKind::Warning, QStringLiteral("Game Over"), QStringLiteral("Game Over"),
                       BoxButtons::Ok, this);
     lblThinking->setText(tr("Game Over"));

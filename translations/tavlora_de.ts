@@ -37,22 +37,6 @@ Auch die Optionen von Qt wie -style und -platform gelten.</translation>
 <context>
     <name>Draughts</name>
     <message>
-        <source>White men: %1.</source>
-        <translation>Weiße Steine: %1.</translation>
-    </message>
-    <message>
-        <source>White kings: %1.</source>
-        <translation>Weiße Damen: %1.</translation>
-    </message>
-    <message>
-        <source>Black men: %1.</source>
-        <translation>Schwarze Steine: %1.</translation>
-    </message>
-    <message>
-        <source>Black kings: %1.</source>
-        <translation>Schwarze Damen: %1.</translation>
-    </message>
-    <message>
         <source>White to move.</source>
         <translation>Weiß ist am Zug.</translation>
     </message>
@@ -83,6 +67,126 @@ Auch die Optionen von Qt wie -style und -platform gelten.</translation>
     <message>
         <source>Game Over</source>
         <translation>Spielende</translation>
+    </message>
+    <message>
+        <source>New game.</source>
+        <translation>Neues Spiel.</translation>
+    </message>
+    <message>
+        <source>being taken</source>
+        <translation>wird geschlagen</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>offered</source>
+        <translation>mögliches Feld</translation>
+    </message>
+    <message>
+        <source>can capture</source>
+        <translation>kann schlagen</translation>
+    </message>
+    <message>
+        <source>can move</source>
+        <translation>kann ziehen</translation>
+    </message>
+    <message>
+        <source>From %1 to %2.</source>
+        <translation>Von %1 nach %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot go to %2.</source>
+        <translation>%1 kann nicht nach %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 is not your piece.</source>
+        <translation>Auf %1 steht nicht Ihr Stein.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move: you must capture with %2.</source>
+        <translation>%1 kann nicht ziehen: %2 muss schlagen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move.</source>
+        <translation>%1 kann nicht ziehen.</translation>
+    </message>
+    <message>
+        <source>White has won.</source>
+        <translation>Weiß hat gewonnen.</translation>
+    </message>
+    <message>
+        <source>Black has won.</source>
+        <translation>Schwarz hat gewonnen.</translation>
+    </message>
+    <message>
+        <source>One move back.</source>
+        <translation>Einen Zug zurück.</translation>
+    </message>
+    <message>
+        <source>One move forward.</source>
+        <translation>Einen Zug vor.</translation>
+    </message>
+    <message>
+        <source>The move is given up.</source>
+        <translation>Der Zug ist aufgegeben.</translation>
+    </message>
+    <message>
+        <source>%1, white man</source>
+        <translation>%1, weißer Stein</translation>
+    </message>
+    <message>
+        <source>%1, white king</source>
+        <translation>%1, weiße Dame</translation>
+    </message>
+    <message>
+        <source>%1, black man</source>
+        <translation>%1, schwarzer Stein</translation>
+    </message>
+    <message>
+        <source>%1, black king</source>
+        <translation>%1, schwarze Dame</translation>
+    </message>
+    <message>
+        <source>%1, empty</source>
+        <translation>%1, leer</translation>
+    </message>
+    <message>
+        <source>White takes %1, %2 to %3.</source>
+        <translation>Weiß schlägt %1, %2 nach %3.</translation>
+    </message>
+    <message>
+        <source>Black takes %1, %2 to %3.</source>
+        <translation>Schwarz schlägt %1, %2 nach %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>White %1 to %2.</source>
+        <translation>Weiß %1 nach %2.</translation>
+    </message>
+    <message>
+        <source>Black %1 to %2.</source>
+        <translation>Schwarz %1 nach %2.</translation>
+    </message>
+    <message>
+        <source>It is crowned.</source>
+        <translation>Er wird Dame.</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>The computer thinks.</source>
+        <translation>Der Computer denkt nach.</translation>
     </message>
 </context>
 <context>

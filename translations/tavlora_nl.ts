@@ -37,22 +37,6 @@ Ook de opties van Qt, zoals -style en -platform, werken.</translation>
 <context>
     <name>Draughts</name>
     <message>
-        <source>White men: %1.</source>
-        <translation>Witte schijven: %1.</translation>
-    </message>
-    <message>
-        <source>White kings: %1.</source>
-        <translation>Witte dammen: %1.</translation>
-    </message>
-    <message>
-        <source>Black men: %1.</source>
-        <translation>Zwarte schijven: %1.</translation>
-    </message>
-    <message>
-        <source>Black kings: %1.</source>
-        <translation>Zwarte dammen: %1.</translation>
-    </message>
-    <message>
         <source>White to move.</source>
         <translation>Wit is aan zet.</translation>
     </message>
@@ -83,6 +67,126 @@ Ook de opties van Qt, zoals -style en -platform, werken.</translation>
     <message>
         <source>Game Over</source>
         <translation>Einde van het spel</translation>
+    </message>
+    <message>
+        <source>New game.</source>
+        <translation>Nieuw spel.</translation>
+    </message>
+    <message>
+        <source>being taken</source>
+        <translation>wordt geslagen</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gekozen</translation>
+    </message>
+    <message>
+        <source>offered</source>
+        <translation>mogelijk veld</translation>
+    </message>
+    <message>
+        <source>can capture</source>
+        <translation>kan slaan</translation>
+    </message>
+    <message>
+        <source>can move</source>
+        <translation>kan zetten</translation>
+    </message>
+    <message>
+        <source>From %1 to %2.</source>
+        <translation>Van %1 naar %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot go to %2.</source>
+        <translation>%1 kan niet naar %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 is leeg.</translation>
+    </message>
+    <message>
+        <source>%1 is not your piece.</source>
+        <translation>Op %1 staat niet uw steen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move: you must capture with %2.</source>
+        <translation>%1 kan niet zetten: %2 moet slaan.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move.</source>
+        <translation>%1 kan niet zetten.</translation>
+    </message>
+    <message>
+        <source>White has won.</source>
+        <translation>Wit heeft gewonnen.</translation>
+    </message>
+    <message>
+        <source>Black has won.</source>
+        <translation>Zwart heeft gewonnen.</translation>
+    </message>
+    <message>
+        <source>One move back.</source>
+        <translation>Eén zet terug.</translation>
+    </message>
+    <message>
+        <source>One move forward.</source>
+        <translation>Eén zet vooruit.</translation>
+    </message>
+    <message>
+        <source>The move is given up.</source>
+        <translation>De zet is afgebroken.</translation>
+    </message>
+    <message>
+        <source>%1, white man</source>
+        <translation>%1, witte schijf</translation>
+    </message>
+    <message>
+        <source>%1, white king</source>
+        <translation>%1, witte dam</translation>
+    </message>
+    <message>
+        <source>%1, black man</source>
+        <translation>%1, zwarte schijf</translation>
+    </message>
+    <message>
+        <source>%1, black king</source>
+        <translation>%1, zwarte dam</translation>
+    </message>
+    <message>
+        <source>%1, empty</source>
+        <translation>%1, leeg</translation>
+    </message>
+    <message>
+        <source>White takes %1, %2 to %3.</source>
+        <translation>Wit slaat %1, %2 naar %3.</translation>
+    </message>
+    <message>
+        <source>Black takes %1, %2 to %3.</source>
+        <translation>Zwart slaat %1, %2 naar %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>White %1 to %2.</source>
+        <translation>Wit %1 naar %2.</translation>
+    </message>
+    <message>
+        <source>Black %1 to %2.</source>
+        <translation>Zwart %1 naar %2.</translation>
+    </message>
+    <message>
+        <source>It is crowned.</source>
+        <translation>Hij wordt dam.</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>The computer thinks.</source>
+        <translation>De computer denkt na.</translation>
     </message>
 </context>
 <context>

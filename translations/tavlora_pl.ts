@@ -37,22 +37,6 @@ Działają też opcje biblioteki Qt, takie jak -style i -platform.</translation>
 <context>
     <name>Draughts</name>
     <message>
-        <source>White men: %1.</source>
-        <translation>Białe pionki: %1.</translation>
-    </message>
-    <message>
-        <source>White kings: %1.</source>
-        <translation>Białe damki: %1.</translation>
-    </message>
-    <message>
-        <source>Black men: %1.</source>
-        <translation>Czarne pionki: %1.</translation>
-    </message>
-    <message>
-        <source>Black kings: %1.</source>
-        <translation>Czarne damki: %1.</translation>
-    </message>
-    <message>
         <source>White to move.</source>
         <translation>Ruch białych.</translation>
     </message>
@@ -83,6 +67,126 @@ Działają też opcje biblioteki Qt, takie jak -style i -platform.</translation>
     <message>
         <source>Game Over</source>
         <translation>Koniec gry</translation>
+    </message>
+    <message>
+        <source>New game.</source>
+        <translation>Nowa gra.</translation>
+    </message>
+    <message>
+        <source>being taken</source>
+        <translation>bita</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>wybrana</translation>
+    </message>
+    <message>
+        <source>offered</source>
+        <translation>możliwe pole</translation>
+    </message>
+    <message>
+        <source>can capture</source>
+        <translation>może bić</translation>
+    </message>
+    <message>
+        <source>can move</source>
+        <translation>może się ruszyć</translation>
+    </message>
+    <message>
+        <source>From %1 to %2.</source>
+        <translation>Z %1 na %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot go to %2.</source>
+        <translation>Z %1 nie można iść na %2.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 jest puste.</translation>
+    </message>
+    <message>
+        <source>%1 is not your piece.</source>
+        <translation>Na %1 nie stoi twoja bierka.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move: you must capture with %2.</source>
+        <translation>%1 nie może się ruszyć: bić musi %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot move.</source>
+        <translation>%1 nie może się ruszyć.</translation>
+    </message>
+    <message>
+        <source>White has won.</source>
+        <translation>Białe wygrały.</translation>
+    </message>
+    <message>
+        <source>Black has won.</source>
+        <translation>Czarne wygrały.</translation>
+    </message>
+    <message>
+        <source>One move back.</source>
+        <translation>O ruch wstecz.</translation>
+    </message>
+    <message>
+        <source>One move forward.</source>
+        <translation>O ruch naprzód.</translation>
+    </message>
+    <message>
+        <source>The move is given up.</source>
+        <translation>Zaniechano ruchu.</translation>
+    </message>
+    <message>
+        <source>%1, white man</source>
+        <translation>%1, biały pionek</translation>
+    </message>
+    <message>
+        <source>%1, white king</source>
+        <translation>%1, biała damka</translation>
+    </message>
+    <message>
+        <source>%1, black man</source>
+        <translation>%1, czarny pionek</translation>
+    </message>
+    <message>
+        <source>%1, black king</source>
+        <translation>%1, czarna damka</translation>
+    </message>
+    <message>
+        <source>%1, empty</source>
+        <translation>%1, puste</translation>
+    </message>
+    <message>
+        <source>White takes %1, %2 to %3.</source>
+        <translation>Białe biją %1, %2 na %3.</translation>
+    </message>
+    <message>
+        <source>Black takes %1, %2 to %3.</source>
+        <translation>Czarne biją %1, %2 na %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 i %2</translation>
+    </message>
+    <message>
+        <source>White %1 to %2.</source>
+        <translation>Białe %1 na %2.</translation>
+    </message>
+    <message>
+        <source>Black %1 to %2.</source>
+        <translation>Czarne %1 na %2.</translation>
+    </message>
+    <message>
+        <source>It is crowned.</source>
+        <translation>Powstaje damka.</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 lub %2</translation>
+    </message>
+    <message>
+        <source>The computer thinks.</source>
+        <translation>Komputer myśli.</translation>
     </message>
 </context>
 <context>

@@ -44,13 +44,3 @@ TEST_F(GameTest, SettingsAreReachedAndChosenByKeyboardAlone) {
     EXPECT_EQ(request(), "AmEngine, depth 2, noise 400, give-away");
     EXPECT_EQ(settingsText(game), "rules 1, size 1, level 1, players 1, give-away 1");
 }
-
-TEST_F(GameTest, TheBoardIsDescribedAsItStands) {
-    game.setBSize(sixSquares);
-    place("w .....b w..... .W.... ..b... ...... ......");
-    taps("13 31");
-    land();
-    EXPECT_EQ(textOf(game.pView, QAccessible::Description),
-              "Black to move. White 2, black 1. White men: (0,4). White kings: (3,1). "
-              "Black men: (5,5).");
-}
