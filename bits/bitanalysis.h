@@ -22,6 +22,13 @@ public:
         flood(whiteToMove);
     }
 
+    // A cheap look that tells most positions for which the analysis has nothing to say: surely no
+    // side can reach its promotion row, and the mobility figure is nil.
+    static bool isIdle(const BitPosition<N> &p) {
+        return countBits(p.white) >= mostCounted && countBits(p.black) >= mostCounted &&
+               !mayPass<true>(p) && !mayPass<false>(p);
+    }
+
     bool whiteCanPass() const {
         return (white_.reached & Squares::template promotionRow<true>) != 0;
     }
@@ -65,6 +72,23 @@ private:
 
     // The squares that pieces on `set` control. Squares on the board's edge never are.
     static Bits neighbourhood(Bits set) { return Squares::around(set) & Squares::inside; }
+
+    // Whether a path of squares leads from some man of the side to its promotion row that it may
+    // claim before the flood begins. A flood only ever reaches squares by such paths, since what a
+    // step claims and controls only closes squares to the other side. Walks back from the row.
+    template <bool White>
+    static bool mayPass(const BitPosition<N> &p) {
+        const Bits men = p.template men<White>();
+        const Bits open = p.empty() & ~neighbourhood(p.template side<!White>());
+        Bits ways = Squares::template promotionRow<White> & open;
+        while (ways != 0) {
+            ways = Squares::template forward<!White>(ways);
+            if ((ways & men) != 0)
+                return true;
+            ways &= open;
+        }
+        return false;
+    }
 
     // One step of a side: false when it claims nothing. What it claims, and what it controls from
     // there, is closed to the other side.

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-// A BestLine in bit indices. Every bit-set node makes one, so it starts without contents but `top`;
+// A BestLine in bit indices. It starts without contents but `top`;
 // entries are read only below the `top` of a line, and those have been written.
 template <int N>
 class BitLine {
@@ -19,10 +19,10 @@ public:
         if (level < BestLine::levels)
             entries_[level] = {score, from, to};
     }
-    void copyFrom(const BitLine *other, int level) {
-        top_ = other->top_;
+    void copyFrom(const BitLine &other, int level) {
+        top_ = other.top_;
         for (int i = level; i < std::min(top_, BestLine::levels); ++i)
-            entries_[i] = other->entries_[i];
+            entries_[i] = other.entries_[i];
     }
     // Writes `top` and the entries from `level` on into a BestLine.
     void writeTo(BestLine &line, int level) const {

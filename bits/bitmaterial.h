@@ -6,68 +6,10 @@
 #include "eval/piecevalues.h"
 #include "eval/squaresvalue.h"
 
-#include <algorithm>
-#include <numeric>
-
-// The values of a side's men by square. The table is taken apart into sets of squares, one for each
-// binary digit of a square's value (above the least, in units of the common divisor); the sum over
-// the men is then a handful of counts.
-template <int N>
-class BitSquareValues {
-    using Squares = DarkSquares<N>;
-    using Bits = typename Squares::Bits;
-
-public:
-    // For black the table is read turned by half a turn.
-    BitSquareValues(const SquaresValue &table, bool white) {
-        int most = table.values[0][0];
-        least_ = most;
-        forEach(table, white, [&](int, int value) {
-            least_ = std::min(least_, value);
-            most = std::max(most, value);
-        });
-        unit_ = 0;
-        forEach(table, white, [&](int, int value) { unit_ = std::gcd(unit_, value - least_); });
-        unit_ = std::max(unit_, 1);
-        forEach(table, white, [&](int i, int value) { addDigits(i, (value - least_) / unit_); });
-    }
-
-    // Sum over `men`, of which there are `count`.
-    int sum(Bits men, int count) const {
-        int units = 0;
-        for (int digit = 0; digit < digits_; ++digit)
-            units += countBits(men & planes_[digit]) << digit;
-        return least_ * count + unit_ * units;
-    }
-
-private:
-    template <class Use>
-    static void forEach(const SquaresValue &table, bool white, Use use) {
-        for (int x = 0; x < N; ++x) {
-            for (int y = x % 2; y < N; y += 2) {
-                use(Squares::index(x, y),
-                    white ? table.values[x][y] : table.values[N - 1 - x][N - 1 - y]);
-            }
-        }
-    }
-    void addDigits(int i, int units) {
-        for (int digit = 0; units >> digit != 0; ++digit) {
-            if ((units >> digit & 1) != 0)
-                planes_[digit] |= Squares::bit(i);
-            digits_ = std::max(digits_, digit + 1);
-        }
-    }
-
-    static constexpr int mostDigits = 31;
-
-    int least_ = 0;
-    int unit_ = 1;
-    int digits_ = 0;
-    Bits planes_[mostDigits] = {};
-};
-
 // The static evaluation of the rule engines for one search: same points as their materialScore, but
-// for the random term.
+// for the random term. What a piece is worth on its square does not depend on the other pieces; the
+// sum of that is carried from position to position. The rest is computed where a position is
+// valued.
 template <int N, bool FlyingKings>
 class BitMaterial {
     using Squares = DarkSquares<N>;
@@ -75,44 +17,39 @@ class BitMaterial {
 
 public:
     BitMaterial(const SquaresValue &table, bool gambit)
-        : whiteValues_(table, true), blackValues_(table, false),
-          kings_(FlyingKings ? flyingKingValues(gambit) : shortKingValues) {}
-
-    // White's points minus black's. `whitePassage` and `blackPassage` are the men on a free path to
-    // promotion; short-king rules give nothing for those.
-    int balance(const BitPosition<N> &p, Bits whitePassage, Bits blackPassage) const {
-        int points =
-            sidePoints(p.white, p.kings, whiteValues_) - sidePoints(p.black, p.kings, blackValues_);
-        if (FlyingKings && (whitePassage | blackPassage) != 0)
-            points += passageStep(N) *
-                      (rowsAdvanced<true>(whitePassage) - rowsAdvanced<false>(blackPassage));
-        return points;
+        : kings_(FlyingKings ? flyingKingValues(gambit) : shortKingValues) {
+        for (int x = 0; x < N; ++x) {
+            for (int y = x % 2; y < N; y += 2) {
+                const int i = Squares::index(x, y);
+                const int king = kings_.further + (FlyingKings ? 0 : kingPlace(x, y));
+                // For black the table is read turned by half a turn.
+                white_.set(i, manValue + table.values[x][y], king);
+                black_.set(i, manValue + table.values[N - 1 - x][N - 1 - y], king);
+            }
+        }
     }
 
-private:
-    int sidePoints(Bits pieces, Bits allKings, const BitSquareValues<N> &values) const {
-        const Bits kings = pieces & allKings;
-        const Bits men = pieces & ~allKings;
-        const int manCount = countBits(men);
-        int points = manValue * manCount + values.sum(men, manCount) + protection(pieces);
-        if (kings != 0)
-            points += kings_.of(countBits(kings)) + kingPlaces(kings);
-        return points;
+    // White's points minus black's for the pieces on their squares, every king as a further one.
+    int onSquares(const BitPosition<N> &p) const {
+        return sum(white_, p.white, p.kings) - sum(black_, p.black, p.kings);
     }
-
-    static int kingPlaces(Bits kings) {
-        if constexpr (FlyingKings)
+    // By how much a move of the side changes that in the side's favour.
+    template <bool White>
+    int gain(const BitPosition<N> &before, const BitPosition<N> &after, const BitMove<N> &m) const {
+        const PiecePoints &own = White ? white_ : black_;
+        const PiecePoints &enemy = White ? black_ : white_;
+        const int moved = own.of(m.to, after.kings) - own.of(m.from, before.kings);
+        return m.taken == 0 ? moved : moved + sum(enemy, m.taken, before.kings);
+    }
+    // White's points minus black's for the first kings.
+    int firstKings(const BitPosition<N> &p) const {
+        if (p.kings == 0)
             return 0;
-        constexpr int margin = centreMargin(N);
-        constexpr Bits centre = Squares::select([](int x, int y) {
-            return margin <= x && x < N - margin && margin <= y && y < N - margin;
-        });
-        const int off = countBits(kings & Squares::inside);
-        return kingInCentre * countBits(kings & centre) + kingOffEdge * off +
-               kingOnEdge * (countBits(kings) - off);
+        const int more = kings_.first - kings_.further;
+        return ((p.white & p.kings) != 0 ? more : 0) - ((p.black & p.kings) != 0 ? more : 0);
     }
-
-    // Neighbours of the same colour, and the board's edge, protect.
+    // Points for the protection of a side's pieces: by neighbours of the same colour and by the
+    // board's edge.
     static int protection(Bits pieces) {
         const Bits s0 = guarded<0>(pieces);
         const Bits s1 = guarded<1>(pieces);
@@ -120,6 +57,50 @@ private:
         const Bits s3 = guarded<3>(pieces);
         const int sides = countBits(s0) + countBits(s1) + countBits(s2) + countBits(s3);
         return protectedSide * sides + protectedBothWays * countBits((s0 | s2) & (s1 | s3));
+    }
+    // White's points minus black's for the men on a free path to promotion; short-king rules give
+    // nothing for those.
+    static int passages(Bits white, Bits black) {
+        return FlyingKings
+                   ? passageStep(N) * (rowsAdvanced<true>(white) - rowsAdvanced<false>(black))
+                   : 0;
+    }
+
+    // All of the above for a position by itself.
+    int balance(const BitPosition<N> &p, Bits whitePassage, Bits blackPassage) const {
+        return onSquares(p) + firstKings(p) + protection(p.white) - protection(p.black) +
+               passages(whitePassage, blackPassage);
+    }
+
+private:
+    // What a side's man and king are worth on each square.
+    class PiecePoints {
+    public:
+        void set(int square, int man, int king) {
+            points_[2 * square] = man;
+            points_[2 * square + 1] = king;
+        }
+        int of(int square, Bits kings) const {
+            return points_[2 * square + (hasBit(kings, square) ? 1 : 0)];
+        }
+
+    private:
+        int points_[2 * Squares::bitCount] = {};
+    };
+
+    static int sum(const PiecePoints &points, Bits pieces, Bits kings) {
+        int total = 0;
+        while (pieces != 0)
+            total += points.of(takeLowest(pieces), kings);
+        return total;
+    }
+
+    static constexpr int kingPlace(int x, int y) {
+        constexpr int margin = centreMargin(N);
+        const auto within = [x, y](int off) {
+            return off <= x && x < N - off && off <= y && y < N - off;
+        };
+        return (within(margin) ? kingInCentre : 0) + (within(1) ? kingOffEdge : kingOnEdge);
     }
 
     // The pieces whose neighbour in direction d protects them.
@@ -139,8 +120,8 @@ private:
         return rows;
     }
 
-    BitSquareValues<N> whiteValues_;
-    BitSquareValues<N> blackValues_;
+    PiecePoints white_;
+    PiecePoints black_;
     KingValues kings_;
 };
 

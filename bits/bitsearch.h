@@ -39,123 +39,169 @@ struct BitContext {
     MoveStack<BitMove<N>> stack;
 };
 
-// A node without an engine: what NodeProcedure asks of a node, over a bit position. Its moves lie
-// on the context's stack while it lives; those of a quiet position are listed only when they are to
+// A level of the deep search: what NodeProcedure asks of a node, over a bit position. One is made
+// when its level is first reached and then serves every node there, which the level above sets up.
+// Its moves lie on the context's stack; those of a quiet position are listed only when they are to
 // be searched.
 template <int N, const RuleTraits &Rules, bool White>
 class BitNode {
     using Context = BitContext<N, Rules>;
+    using Child = BitNode<N, Rules, !White>;
+    friend Child;
 
 public:
-    using Line = BitLine<N>;
+    BitNode(Context &context, int level) : context_(context), level_(level) {}
 
-    BitNode(Context &context, const BitPosition<N> &position, int ply, int budget)
-        : context_(context), position_(position), generator_(position), ply_(ply), budget_(budget),
-          first_(context.stack.size()) {}
-    ~BitNode() { context_.stack.cut(first_); }
-    BitNode(const BitNode &) = delete;
-    BitNode &operator=(const BitNode &) = delete;
+    // Searches a position as a node that no other is above.
+    Score searchAsTop(const BitPosition<N> &position, int ply, int budget, int alpha, int beta) {
+        position_ = position;
+        onSquares_ = context_.material.onSquares(position);
+        setUp(ply, budget, 0);
+        return NodeProcedure<BitNode>::run(*this, alpha, beta);
+    }
+    // What the last search found.
+    const BitLine<N> &line() const { return line_; }
 
     SearchContext &context() const { return context_.search; }
+    int level() const { return level_; }
     int budget() const { return budget_; }
+    int horizon() const { return horizon_; }
+    void endLine() { line_.setTop(level_); }
 
     // A listing finds the moves in the state of never searched ones: their scores are none, and
     // they are searched in reverse order.
-    bool listMoves() {
-        capture_ = generator_.canCapture();
-        if (capture_)
-            generator_.listCaptures(context_.stack, context().listingWatch());
-        // Captures beyond the limit are dropped, possibly all of them.
-        moves_ = static_cast<int>(context_.stack.size() - first_);
-        capture_ = moves_ > 0;
+    [[gnu::always_inline]] bool listMoves() {
+        Generator generator(position_);
+        capture_ = generator.canCapture();
+        if (capture_) {
+            context_.stack.cut(first_);
+            generator.listCaptures(context_.stack, context().listingWatch());
+            if (context().listingWatch().isGivenUp())
+                return false;
+            // Captures beyond the limit are dropped, possibly all of them.
+            moves_ = static_cast<int>(context_.stack.size() - first_);
+            capture_ = moves_ > 0;
+        }
         if (!capture_)
-            moves_ = generator_.countQuiet();
-        return moves_ == 0;
+            moves_ = generator.countQuiet();
+        return true;
     }
 
     int moves() const { return moves_; }
     bool mustCapture() const { return capture_; }
 
-    Score material() { return {materialScore(0, 0), ply_}; }
+    Score material() { return {value(0), ply_}; }
 
-    bool staticValue(int level, int horizon, Score &value) {
-        constexpr int freedomValue = AbstractEngine::freedomValue;
-        const BitAnalysis<N> analysis(position_, White);
-        typename DarkSquares<N>::Bits white = 0;
-        typename DarkSquares<N>::Bits black = 0;
-        if (analysis.canPass()) {
-            if (level < horizon + 1)
-                return false;
-            if constexpr (Rules.flyingKings) {
-                white = analysis.whitePassageMen();
-                black = analysis.blackPassageMen();
-            }
+    [[gnu::always_inline]] Score staticValue() {
+        if (BitAnalysis<N>::isIdle(position_))
+            return material();
+        return analysedValue();
+    }
+
+    void prepareMoves(int childBudget) {
+        if (!capture_) {
+            context_.stack.cut(first_);
+            Generator(position_).listQuiet(context_.stack);
         }
-        const int freedom = freedomValue * analysis.freedom();
-        value.set(materialScore(white, black) + (White ? freedom : -freedom), ply_);
-        return true;
+        if (child_ == nullptr)
+            child_ = std::make_unique<Child>(context_, level_ + 1);
+        child_->setUp(ply_ + 1, childBudget, context_.stack.size());
     }
 
-    void prepareMoves() {
-        if (!capture_)
-            generator_.listQuiet(context_.stack);
-    }
-
-    int enter(int i, int childBudget) {
-        child_ = position_.template after<White>(move(i));
-        childBudget_ = childBudget;
+    int enter(int i) {
+        const BitMove<N> &m = move(i);
+        Child &child = *child_;
+        child.position_ = position_.template after<White>(m);
+        const int gain = context_.material.template gain<White>(position_, child.position_, m);
+        child.onSquares_ = White ? onSquares_ + gain : onSquares_ - gain;
+        if (m.taken != 0)
+            child.protection_ = unknown;
         return Score::none;
     }
 
     bool probe(int beta, int alpha, Score &value) {
-        return context_.probe(child_, !White, beta, alpha, value);
+        return context_.probe(child_->position_, !White, beta, alpha, value);
     }
 
-    void search(int level, Score &value, const Score &alpha, const Score &beta, Line &line) {
-        using Child = BitNode<N, Rules, !White>;
-        Child child(context_, child_, ply_ + 1, childBudget_);
-        NodeProcedure<Child>(child, level).run(value, alpha, beta, line);
-    }
+    Score search(int alpha, int beta) { return NodeProcedure<Child>::run(*child_, alpha, beta); }
 
     void leave(int i, int score) { move(i).score = score; }
 
-    void updateLine(Line &line, int i, int level) {
-        line.updateAt(move(i).from, move(i).to, move(i).score, level);
+    void setBest(int i) {
+        line_.copyFrom(child_->line_, level_ + 1);
+        line_.updateAt(move(i).from, move(i).to, move(i).score, level_);
     }
+    void cutOff() {}
 
-    void record(const Score &value, int alpha0, const Score &beta, bool insert) {
+    void record(int value, int alpha0, int beta, bool insert) {
         if (insert)
-            context_.table.insert(position_, White, ply_, value.value, alpha0, beta.value);
+            context_.table.insert(position_, White, ply_, value, alpha0, beta);
     }
 
     void addChoiceBonus(Score &result) const {
         int good = 0;
-        for (std::size_t i = first_; i < context_.stack.size(); ++i)
-            good += isGoodMove(context_.stack[i].score, result);
+        for (int i = 0; i < moves_; ++i)
+            good += isGoodMove(move(i).score, result);
         result += severalMovesBonus(result, moves_, good);
     }
 
 private:
+    using Generator = BitMoveGenerator<N, Rules, White>;
     using Bits = typename DarkSquares<N>::Bits;
 
-    BitMove<N> &move(int i) { return context_.stack[first_ + static_cast<unsigned>(i)]; }
-
-    int materialScore(Bits whitePassage, Bits blackPassage) {
-        context().countStaticValue();
-        const int balance = context_.material.balance(position_, whitePassage, blackPassage);
-        return (White ? balance : -balance) + context().statistic().randomTerm();
+    // What all nodes have in common that the node above, or the search, will visit in turn. Their
+    // moves come on the stack from `first` on. They begin with an empty line.
+    void setUp(int ply, int budget, std::size_t first) {
+        ply_ = ply;
+        budget_ = budget;
+        horizon_ = budget / 10;
+        first_ = first;
+        protection_ = unknown;
+        line_.setTop(0);
     }
 
+    BitMove<N> &move(int i) const { return context_.stack[first_ + static_cast<unsigned>(i)]; }
+
+    // The static value, `further` points for white being added.
+    int value(int further) {
+        using Material = BitMaterial<N, Rules.flyingKings>;
+        context().countStaticValue();
+        if (protection_ == unknown)
+            protection_ = Material::protection(position_.template side<White>());
+        const int moved = Material::protection(position_.template side<!White>());
+        const int whites = onSquares_ + context_.material.firstKings(position_) + further;
+        return (White ? whites : -whites) + protection_ - moved +
+               context().statistic().randomTerm();
+    }
+
+    [[gnu::noinline]] Score analysedValue() {
+        const BitAnalysis<N> analysis(position_, White);
+        int further = AbstractEngine::freedomValue * analysis.freedom();
+        if (analysis.canPass()) {
+            if (level_ < horizon_ + 1)
+                return {Score::none, 0};
+            if constexpr (Rules.flyingKings)
+                further += BitMaterial<N, true>::passages(analysis.whitePassageMen(),
+                                                          analysis.blackPassageMen());
+        }
+        return {value(further), ply_};
+    }
+
+    static constexpr int unknown = -1;
+
     Context &context_;
-    const BitPosition<N> &position_;
-    BitMoveGenerator<N, Rules, White> generator_;
-    const int ply_;
-    const int budget_;
-    const std::size_t first_; // of this node's moves on the stack
+    const int level_;
+    std::unique_ptr<Child> child_;
+    BitPosition<N> position_;
+    int onSquares_ = 0;        // see BitMaterial
+    int protection_ = unknown; // of the side to move: the same after all quiet moves to here
+    int ply_ = 0;
+    int budget_ = 0;
+    int horizon_ = 0;
     int moves_ = 0;
     bool capture_ = false;
-    BitPosition<N> child_;
-    int childBudget_ = 0;
+    std::size_t first_ = 0; // of this node's moves on the stack
+    BitLine<N> line_;
 };
 
 template <int N, const RuleTraits &Rules>
@@ -180,12 +226,9 @@ public:
         return context_.probe(child_, whiteToMove_, beta, alpha, value);
     }
 
-    void search(int level, int depth, Score &value, Score alpha, Score beta,
-                BestLine &line) override {
-        if (whiteToMove_)
-            run<true>(level, depth, value, alpha, beta, line);
-        else
-            run<false>(level, depth, value, alpha, beta, line);
+    Score search(int level, int depth, int alpha, int beta, BestLine &line) override {
+        return whiteToMove_ ? run(white_, level, depth, alpha, beta, line)
+                            : run(black_, level, depth, alpha, beta, line);
     }
 
     void noteStored(const board &b) override { context_.table.note(b); }
@@ -194,16 +237,21 @@ private:
     using Squares = DarkSquares<N>;
 
     template <bool White>
-    void run(int level, int depth, Score &value, Score alpha, Score beta, BestLine &line) {
-        using Node = BitNode<N, Rules, White>;
-        const BitPosition<N> position = child_;
-        Node node(context_, position, ply_, depth);
-        BitLine<N> below;
-        NodeProcedure<Node>(node, level).run(value, alpha, beta, below);
-        below.writeTo(line, level);
+    using Top = std::unique_ptr<BitNode<N, Rules, White>>;
+
+    template <bool White>
+    Score run(Top<White> &top, int level, int depth, int alpha, int beta, BestLine &line) {
+        if (top == nullptr)
+            top = std::make_unique<BitNode<N, Rules, White>>(context_, level);
+        const Score value = top->searchAsTop(child_, ply_, depth, alpha, beta);
+        top->line().writeTo(line, level);
+        return value;
     }
 
     BitContext<N, Rules> context_;
+    // The levels of the search, by the side to move at the highest.
+    Top<true> white_;
+    Top<false> black_;
     BitPosition<N> child_;
     bool whiteToMove_ = true;
     int ply_ = 0;

@@ -34,9 +34,8 @@ public:
     // As AbstractEngine::canUseHT for that position, the answer going to `value`.
     virtual bool probe(int beta, int alpha, Score &value) = 0;
     // Searches that position at `level` with a depth budget of `depth` tenths of a ply, as
-    // AbstractEngine::getBestMove does.
-    virtual void search(int level, int depth, Score &value, Score alpha, Score beta,
-                        BestLine &line) = 0;
+    // AbstractEngine::getBestMove does. All calls name the same level.
+    virtual Score search(int level, int depth, int alpha, int beta, BestLine &line) = 0;
     // Takes note that a position was stored in the transposition table.
     virtual void noteStored(const board &b) = 0;
 };

@@ -12,28 +12,27 @@
 namespace {
 
 template <SearchNode Node>
-NodeOutcome run(Node &&node, int level, Score &result, const Score &alpha, const Score &beta,
-                BestLine &line) {
-    using Procedure = NodeProcedure<Node>;
-    const int best = Procedure(node, level).run(result, alpha, beta, line);
-    return {best < 0 ? nullptr : node.move(best), best != Procedure::unsearched};
+NodeOutcome run(Node &&node, int alpha, int beta) {
+    const Score value = NodeProcedure<Node>::run(node, alpha, beta);
+    NodeOutcome outcome = node.outcome();
+    outcome.value = value;
+    return outcome;
 }
 
 } // namespace
 
-NodeOutcome searchNode(AbstractEngine &engine, SearchContext &context, int level, Score &result,
-                       const Score &alpha, const Score &beta, BestLine &line) {
+NodeOutcome searchNode(AbstractEngine &engine, SearchContext &context, int level, int alpha,
+                       int beta, BestLine &line) {
     if (level > EngineNode::lastCachedLevel && context.deepSearch() != nullptr)
-        return run(HandoverNode(engine, context), level, result, alpha, beta, line);
-    return run(EngineNode(engine, context, level), level, result, alpha, beta, line);
+        return run(HandoverNode(engine, context, level, line), alpha, beta);
+    return run(EngineNode(engine, context, level, line), alpha, beta);
 }
 
 // A list that was searched before is ordered by the scores of that time.
 bool MoveListNode::listMoves() {
     QValueList<LegalMove> &list = engine_.moveList;
-    bool noMoves = false;
     if (list.isEmpty()) {
-        noMoves = engine_.listMoves(context_.listingWatch());
+        engine_.listMoves(context_.listingWatch());
         engine_.randMoveList();
     } else {
         sortByScore(list);
@@ -42,51 +41,61 @@ bool MoveListNode::listMoves() {
     moves_.reserve(static_cast<std::size_t>(list.count()));
     for (LegalMove &m : list)
         moves_.push_back(&m);
-    return noMoves;
+    return !context_.listingWatch().isGivenUp();
 }
 
 Score MoveListNode::material() {
     return {engine_.materialScore(nullptr), engine_.board->plyCount};
 }
 
-bool MoveListNode::staticValue(int level, int, Score &value) {
+Score MoveListNode::staticValue() {
     int freedom = 0;
     bool canPass = false;
     heuristic analysis;
     heuristic *passages = engine_.doHeuristic(&analysis, freedom, canPass);
-    if (!engine_.canScore(level, canPass))
-        return false;
-    value.set(engine_.materialScore(passages) + freedom, engine_.board->plyCount);
-    return true;
+    if (!engine_.canScore(level_, canPass))
+        return {Score::none, 0};
+    return {engine_.materialScore(passages) + freedom, engine_.board->plyCount};
 }
 
-void MoveListNode::record(const Score &value, int alpha0, const Score &beta, bool insert) {
+void MoveListNode::prepareMoves(int childBudget) {
+    childBudget_ = childBudget;
+    outcome_.searched = true;
+}
+
+void MoveListNode::setBest(int i) {
+    outcome_.best = move(i);
+    line_.copyFrom(&childLine_, level_ + 1);
+    line_.updateAt(move(i), level_);
+}
+
+void MoveListNode::record(int value, int alpha0, int beta, bool insert) {
     board &b = *engine_.board;
     b.hashHorizon = AbstractEngine::absHorizon;
-    b.hashScore = value.value;
+    b.hashScore = value;
     b.hashAlpha = alpha0;
-    b.hashBeta = beta.value;
+    b.hashBeta = beta;
     if (insert && AbstractEngine::pHT->insert(&b) == 1 && context_.deepSearch() != nullptr)
         context_.deepSearch()->noteStored(b);
 }
 
-int MoveListNode::reducedBudget(const LegalMove &m, int childBudget) {
-    return childBudget - std::max(m.reduction, 0);
+int MoveListNode::reducedBudget(const LegalMove &m) const {
+    return childBudget_ - std::max(m.reduction, 0);
 }
 
 // A clone is made with the budget that the move's reduction has not been taken from yet. A search
 // that is broken off only asks the table for what it has not searched yet: on the way out of a long
 // listing it makes boards for that, but no engines.
-int EngineNode::enter(int i, int childBudget) {
+int EngineNode::enter(int i) {
     LegalMove &m = *move(i);
     if (m.subBoard == nullptr) {
         m.subBoard = new board(engine_.board);
         engine_.makeMove(m.subBoard, &m);
     }
     if (m.subEngine == nullptr && !AbstractEngine::breakThinking)
-        m.subEngine = engine_.selfClone(m.subBoard, childBudget, engine_.statistic, engine_.size);
+        m.subEngine = engine_.selfClone(m.subBoard, childBudget_, engine_.statistic, engine_.size);
     if (m.subEngine != nullptr)
-        m.subEngine->depth = reducedBudget(m, childBudget);
+        m.subEngine->depth = reducedBudget(m);
     child_ = m.subBoard;
     childEngine_ = m.subEngine;
     return m.score;
@@ -99,12 +108,11 @@ bool EngineNode::probe(int beta, int alpha, Score &value) {
     return true;
 }
 
-void EngineNode::search(int level, Score &value, const Score &alpha, const Score &beta,
-                        BestLine &line) {
+Score EngineNode::search(int alpha, int beta) {
     if (childEngine_ != nullptr)
-        searchNode(*childEngine_, context_, level, value, alpha, beta, line);
-    else
-        NodeProcedure<EngineNode>::breakOff(level, value, line);
+        return searchNode(*childEngine_, context_, level_ + 1, alpha, beta, childLine_).value;
+    childLine_.setTop(level_ + 1);
+    return Score::brokenOff();
 }
 
 void EngineNode::leave(int i, int score) {
@@ -118,13 +126,14 @@ void EngineNode::leave(int i, int score) {
     m.subBoard = nullptr;
 }
 
-HandoverNode::HandoverNode(AbstractEngine &engine, SearchContext &context)
-    : MoveListNode(engine, context), deepSearch_(*context.deepSearch()) {}
+HandoverNode::HandoverNode(AbstractEngine &engine, SearchContext &context, int level,
+                           BestLine &line)
+    : MoveListNode(engine, context, level, line), deepSearch_(*context.deepSearch()) {}
 
-int HandoverNode::enter(int i, int childBudget) {
+int HandoverNode::enter(int i) {
     const LegalMove &m = *move(i);
     deepSearch_.enter(*engine_.board, m);
-    childBudget_ = reducedBudget(m, childBudget);
+    depth_ = reducedBudget(m);
     return m.score;
 }
 
@@ -132,9 +141,8 @@ bool HandoverNode::probe(int beta, int alpha, Score &value) {
     return deepSearch_.probe(beta, alpha, value);
 }
 
-void HandoverNode::search(int level, Score &value, const Score &alpha, const Score &beta,
-                          BestLine &line) {
-    deepSearch_.search(level, childBudget_, value, alpha, beta, line);
+Score HandoverNode::search(int alpha, int beta) {
+    return deepSearch_.search(level_ + 1, depth_, alpha, beta, childLine_);
 }
 
 void HandoverNode::leave(int i, int score) {

@@ -6,6 +6,7 @@
 #include "search/score.h"
 #include "search/searchcontext.h"
 
+#include <algorithm>
 #include <concepts>
 
 // At this many plies below the root a node is valued statically whatever it holds: captures and
@@ -19,86 +20,80 @@ inline constexpr int captureExtension = 7;
 // their index. Values are points for the side to move and take no account of giving away. `bound`
 // stands for a window's bounds, see AbstractEngine::getBestMove.
 template <class Node>
-concept SearchNode = requires(Node node, const Node seen, typename Node::Line line, Score value,
-                              const Score bound, int level, int horizon, int i, int points) {
-    // What it shares with all nodes of the search. (`Line` is the kind of best line it fills, see
-    // BestLine.)
+concept SearchNode = requires(Node node, const Node seen, Score &value, int bound, int i,
+                              int points) {
+    // What it shares with all nodes of the search.
     { seen.context() } -> std::same_as<SearchContext &>;
-    // Depth budget in tenths of a ply.
+    // Plies below the root.
+    { seen.level() } -> std::same_as<int>;
+    // Depth budget in tenths of a ply, and the level where that has it valued statically.
     { seen.budget() } -> std::same_as<int>;
+    { seen.horizon() } -> std::same_as<int>;
 
+    // The best line of the node ends at its own position.
+    node.endLine();
     // Lists the moves, or orders a list that is there already: the last is to be examined first.
-    // True when there is none. From here on: their number, and whether they are captures.
+    // False when the listing was given up, so that the list says nothing. From here on: their
+    // number, and whether they are captures.
     { node.listMoves() } -> std::same_as<bool>;
     { seen.moves() } -> std::same_as<int>;
     { seen.mustCapture() } -> std::same_as<bool>;
 
     // The static value without an analysis, with the position's ply counter.
     { node.material() } -> std::same_as<Score>;
-    // The same with an analysis and the mobility term; false when a man's run delays the valuation.
-    { node.staticValue(level, horizon, value) } -> std::same_as<bool>;
+    // The same with an analysis and the mobility term; none when a man's run delays the valuation.
+    { node.staticValue() } -> std::same_as<Score>;
 
-    // Called once before moves are entered.
-    node.prepareMoves();
-    // Sets up the child of move i with a depth budget, before the move's reduction. Returns the
-    // move's score of an earlier visit, none without one.
-    { node.enter(i, points) } -> std::same_as<int>;
+    // Called once before moves are entered, with the depth budget of the children.
+    node.prepareMoves(points);
+    // Sets up the child of move i. Returns the move's score of an earlier visit, none without one.
+    { node.enter(i) } -> std::same_as<int>;
     // Answers the child from the transposition table; arguments as AbstractEngine::canUseHT.
-    { node.probe(points, points, value) } -> std::same_as<bool>;
-    // Searches the child as a node at `level`.
-    node.search(level, value, bound, bound, line);
+    { node.probe(bound, bound, value) } -> std::same_as<bool>;
+    // Searches the child, whose own bounds these are.
+    { node.search(bound, bound) } -> std::same_as<Score>;
     // Ends the visit to the child of move i, which gave the move this score.
     node.leave(i, points);
 
-    // Records move i as the best.
-    node.updateLine(line, i, level);
+    // Move i is the best so far: the best line is that of its child.
+    node.setBest(i);
+    // The moves that were searched were enough to know that the node will not be reached.
+    node.cutOff();
     // Adds the bonus for several good moves.
     seen.addChoiceBonus(value);
     // Writes the search record (value, alpha at entry, beta); stores it in the table if asked to.
-    node.record(bound, points, bound, true);
+    node.record(points, bound, bound, true);
 };
 
-// Negamax alpha-beta over one node.
+// Negamax alpha-beta over one node. The bounds of a window are points, never a negated none.
 template <SearchNode Node>
 class NodeProcedure {
-    using Line = typename Node::Line;
-
 public:
-    // In place of the index of a best move: there is none, and the moves were not even searched.
-    static constexpr int noBest = -1;
-    static constexpr int unsearched = -2;
-
-    NodeProcedure(Node &node, int level)
-        : node_(node), level_(level), horizon_(node.budget() / 10) {}
-
-    // Values the node into `result` from its side's point of view. Returns the index of the best
-    // move; `noBest` after a cut-off or when no move has a value; `unsearched` when the node was
-    // valued without searching its moves, or broken off. Window: see AbstractEngine::getBestMove.
-    int run(Score &result, Score alpha, Score beta, Line &line) {
-        line.setTop(level_);
-        alpha.reviveNone();
-        beta.reviveNone();
-        if (level_ > 0 && AbstractEngine::breakThinking) {
-            breakOff(level_, result, line);
-            return unsearched;
+    // Values the node from its side's point of view. Window: see AbstractEngine::getBestMove. Most
+    // nodes end here; that part is compiled into the loop over the parent's moves.
+    [[gnu::always_inline]] static Score run(Node &node, int alpha, int beta) {
+        node.endLine();
+        if (AbstractEngine::breakThinking && node.level() > 0)
+            return Score::brokenOff();
+        if (!node.listMoves())
+            return Score::brokenOff();
+        node.context().countNode(node.level(), node.moves());
+        if (node.level() >= levelLimit)
+            return turned(node, node.material());
+        if (node.moves() == 0)
+            return turned(node, {Score::lost + node.level(), node.horizon()});
+        // A position with a capture to make is always searched.
+        if (!node.mustCapture()) {
+            Score value(Score::none, 0);
+            if (canScore(node.level(), node.horizon(), node.moves())) {
+                value = node.staticValue();
+                if (!value.isNone())
+                    return turned(node, value);
+            } else if (senselessSacrifice(node, alpha, beta, value)) {
+                return value;
+            }
         }
-        const bool noMoves = node_.listMoves();
-        if (context().listingWatch().isGivenUp()) { // a part of the list says nothing
-            breakOff(level_, result, line);
-            return unsearched;
-        }
-        context().countNode(level_, node_.moves());
-        result.setNone(horizon_);
-        if (valuedUnsearched(noMoves, result, alpha, beta))
-            return unsearched;
-        const int extension = node_.mustCapture() ? captureExtension : 0;
-        return searchMoves(node_.budget() + extension, result, alpha, beta, line);
-    }
-
-    // What a node answers once the search is broken off.
-    static void breakOff(int level, Score &result, Line &line) {
-        line.setTop(level);
-        result.setNone(-1);
+        return searchMoves(node, alpha, beta);
     }
 
     // The rules of static valuation, shared with AbstractEngine's operations of these names.
@@ -111,121 +106,76 @@ public:
 
     // Seen from the parent and counted in thousands, the material balance is already below what the
     // parent is sure to get elsewhere. With few pieces left one unit more may be given.
-    bool senselessSacrifice(const Score &alpha, const Score &beta, Score &value) {
-        if (beta.isNone() || beta.aroundGameOver() || alpha.aroundGameOver())
+    static bool senselessSacrifice(Node &node, int alpha, int beta, Score &value) {
+        if (Score::isNone(beta) || Score::aroundGameOver(beta) || Score::aroundGameOver(alpha))
             return false;
-        value = material();
+        value = turned(node, node.material());
         const int balance = -Score::hiPart(value.value) + (AbstractEngine::isGambit ? 1 : 0);
-        if (balance >= Score::hiPart(beta.value))
+        if (balance >= Score::hiPart(beta))
             return false;
-        context().countSacrifice();
+        node.context().countSacrifice();
         return true;
     }
 
 private:
-    SearchContext &context() const { return node_.context(); }
-
-    // Nodes that end here: the level limit, no move, a senseless sacrifice, a quiet position at the
-    // horizon. A position with a capture to make is always searched.
-    bool valuedUnsearched(bool noMoves, Score &result, const Score &alpha, const Score &beta) {
-        if (level_ >= levelLimit) {
-            result = material();
-            return true;
-        }
-        if (noMoves) {
-            result = turned({Score::lost + level_, horizon_});
-            return true;
-        }
-        if (node_.mustCapture())
-            return false;
-        Score value = result;
-        const bool done = canScore(level_, horizon_, node_.moves())
-                              ? staticValue(value)
-                              : senselessSacrifice(alpha, beta, value);
-        if (done)
-            result = value;
-        return done;
-    }
-
     // The last move of the list first.
-    int searchMoves(int childBudget, Score &result, Score alpha, const Score &beta, Line &line) {
-        const int alpha0 = alpha.value;
-        int best = noBest;
-        Line childLine;
-        node_.prepareMoves();
-        for (int i = node_.moves() - 1; i >= 0; --i) {
-            Score value(Score::none, horizon_);
-            searchMove(i, childBudget, value, alpha, beta, childLine);
+    [[gnu::noinline]] static Score searchMoves(Node &node, int alpha, int beta) {
+        const int alpha0 = alpha;
+        Score best(Score::none, node.horizon());
+        node.prepareMoves(node.budget() + (node.mustCapture() ? captureExtension : 0));
+        for (int i = node.moves() - 1; i >= 0; --i) {
+            const Score value = searchMove(node, i, alpha, beta);
             if (value.isNone())
                 continue;
-            if (value > result) {
-                result = value;
-                best = i;
-                line.copyFrom(&childLine, level_ + 1);
-                node_.updateLine(line, i, level_);
+            if (value > best) {
+                best = value;
+                node.setBest(i);
             }
-            if (value > alpha)
-                alpha = value;
-            if (i > 0 && cutsOff(value, alpha, beta)) {
-                finishCutOff(value, result, alpha0, beta);
-                return noBest;
-            }
+            alpha = std::max(alpha, value.value);
+            // Alpha is now a value, not none, and at least that of the move.
+            if (i > 0 && -alpha <= beta)
+                return cutOff(node, value, alpha0, beta);
         }
-        if (level_ + 1 >= horizon_)
-            node_.addChoiceBonus(result);
-        node_.record(result, alpha0, beta, alpha0 != -beta.value);
+        if (node.level() + 1 >= node.horizon())
+            node.addChoiceBonus(best);
+        node.record(best.value, alpha0, beta, alpha0 != -beta);
         return best;
     }
 
-    // A decided score of the last iteration stands; otherwise the table or a search answers, the
-    // child getting the bounds swapped and not negated. `value` ends up in this node's view.
-    void searchMove(int i, int childBudget, Score &value, const Score &alpha, const Score &beta,
-                    Line &childLine) {
-        const Score earlier(-node_.enter(i, childBudget), horizon_);
-        if (earlier.aroundGameOver())
-            value = earlier;
-        else if (node_.probe(beta.value, alpha.value, value))
-            context().countHashHit();
-        else
-            node_.search(level_ + 1, value, beta, alpha, childLine);
+    // The value of move i in this node's view. A decided score of the last iteration stands;
+    // otherwise the table or a search answers, the child getting the bounds swapped and not
+    // negated.
+    static Score searchMove(Node &node, int i, int alpha, int beta) {
+        Score value(-node.enter(i), node.horizon());
+        if (!value.aroundGameOver()) {
+            if (node.probe(beta, alpha, value))
+                node.context().countHashHit();
+            else
+                value = node.search(beta, alpha);
+        }
         if (value.isNone())
             value.value = Score::none;
         else
             value.neg();
-        node_.leave(i, value.value);
-    }
-
-    static bool cutsOff(const Score &value, const Score &alpha, const Score &beta) {
-        return -value.value <= beta.value || (!alpha.isNone() && -alpha.value <= beta.value);
-    }
-
-    // A cut-off on the window alone leaves no record.
-    void finishCutOff(const Score &value, Score &result, int alpha0, const Score &beta) {
-        context().countCutoff();
-        result = value;
-        if (-value.value <= beta.value)
-            node_.record(result, alpha0, beta, true);
-    }
-
-    Score material() { return turned(node_.material()); }
-
-    bool staticValue(Score &value) {
-        if (!node_.staticValue(level_, horizon_, value))
-            return false;
-        value = turned(value);
-        return true;
-    }
-
-    // Who gives away wants what is bad for the side.
-    Score turned(Score value) const {
-        if (context().giveAway())
-            value.neg();
+        node.leave(i, value.value);
         return value;
     }
 
-    Node &node_;
-    const int level_;
-    const int horizon_;
+    // A cut-off on the window alone leaves no record.
+    static Score cutOff(Node &node, const Score &value, int alpha0, int beta) {
+        node.context().countCutoff();
+        node.cutOff();
+        if (-value.value <= beta)
+            node.record(value.value, alpha0, beta, true);
+        return value;
+    }
+
+    // Who gives away wants what is bad for the side.
+    static Score turned(Node &node, Score value) {
+        if (node.context().giveAway())
+            value.neg();
+        return value;
+    }
 };
 
 #endif

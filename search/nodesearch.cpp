@@ -32,12 +32,12 @@ LegalMove *AbstractEngine::getBestMove(int level, Score &result, Score alpha, Sc
         pHT->clear();
         context.startDeepSearch(*this);
     }
-    const NodeOutcome outcome = searchNode(*this, context, level, result, alpha, beta, line);
-    if (trace && outcome.searched) {
-        alpha.reviveNone();
-        beta.reviveNone();
+    alpha.reviveNone();
+    beta.reviveNone();
+    const NodeOutcome outcome = searchNode(*this, context, level, alpha.value, beta.value, line);
+    result = outcome.value;
+    if (trace && outcome.searched)
         printPLM(alpha.value, beta.value, board->HKey(), 0, level);
-    }
     return outcome.best;
 }
 
@@ -64,10 +64,11 @@ heuristic *AbstractEngine::doHeuristic(heuristic *h, int &freedom, bool &canPass
 
 bool AbstractEngine::senseLessSacryfice(const Score &alpha, const Score &beta, int &material) {
     SearchContext context(*statistic);
-    EngineNode node(*this, context, 0);
+    BestLine line;
+    EngineNode node(*this, context, 0, line);
     Score value(material, 0);
     const bool senseless =
-        NodeProcedure<EngineNode>(node, 0).senselessSacrifice(alpha, beta, value);
+        NodeProcedure<EngineNode>::senselessSacrifice(node, alpha.value, beta.value, value);
     material = value.value;
     return senseless;
 }

@@ -21,6 +21,9 @@ struct Score {
 
     constexpr Score(int points, int establishedAt) : value(points), depth(establishedAt) {}
 
+    // What a node answers once the search is broken off.
+    static constexpr Score brokenOff() { return {none, -1}; }
+
     constexpr void setNone(int establishedAt) { set(none, establishedAt); }
     constexpr void set(int points, int establishedAt) {
         value = points;
@@ -28,15 +31,17 @@ struct Score {
     }
     constexpr void neg() { value = -value; }
 
-    constexpr bool isNone() const { return value == none || value == -none; }
+    static constexpr bool isNone(int points) { return points == none || points == -none; }
+    constexpr bool isNone() const { return isNone(value); }
     // A bound that was none before a change of sides is none again.
     constexpr void reviveNone() {
         if (isNone())
             value = none;
     }
-    constexpr bool aroundGameOver() const {
-        return !isNone() && (value > decided || value < -decided);
+    static constexpr bool aroundGameOver(int points) {
+        return !isNone(points) && (points > decided || points < -decided);
     }
+    constexpr bool aroundGameOver() const { return aroundGameOver(value); }
 
     constexpr Score &operator+=(int points) {
         value += points;
