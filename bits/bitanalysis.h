@@ -78,9 +78,12 @@ private:
     // step claims and controls only closes squares to the other side. Walks back from the row.
     template <bool White>
     static bool mayPass(const BitPosition<N> &p) {
+        const Bits empty = p.empty();
+        Bits ways = Squares::template promotionRow<White> & empty; // the edge is never controlled
+        if (ways == 0)
+            return false;
         const Bits men = p.template men<White>();
-        const Bits open = p.empty() & ~neighbourhood(p.template side<!White>());
-        Bits ways = Squares::template promotionRow<White> & open;
+        const Bits open = empty & ~neighbourhood(p.template side<!White>());
         while (ways != 0) {
             ways = Squares::template forward<!White>(ways);
             if ((ways & men) != 0)

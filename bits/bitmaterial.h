@@ -22,9 +22,10 @@ public:
             for (int y = x % 2; y < N; y += 2) {
                 const int i = Squares::index(x, y);
                 const int king = kings_.further + (FlyingKings ? 0 : kingPlace(x, y));
+                const int edge = edgeProtection(Squares::bit(i));
                 // For black the table is read turned by half a turn.
-                white_.set(i, manValue + table.values[x][y], king);
-                black_.set(i, manValue + table.values[N - 1 - x][N - 1 - y], king);
+                white_.set(i, manValue + table.values[x][y] + edge, king + edge);
+                black_.set(i, manValue + table.values[N - 1 - x][N - 1 - y] + edge, king + edge);
             }
         }
     }
@@ -48,15 +49,15 @@ public:
         const int more = kings_.first - kings_.further;
         return ((p.white & p.kings) != 0 ? more : 0) - ((p.black & p.kings) != 0 ? more : 0);
     }
-    // Points for the protection of a side's pieces: by neighbours of the same colour and by the
-    // board's edge.
+    // Points for what a side's pieces protect each other. Of two neighbours each protects the
+    // other; pieces on the edge have the points of both ways already.
     static int protection(Bits pieces) {
-        const Bits s0 = guarded<0>(pieces);
-        const Bits s1 = guarded<1>(pieces);
-        const Bits s2 = guarded<2>(pieces);
-        const Bits s3 = guarded<3>(pieces);
-        const int sides = countBits(s0) + countBits(s1) + countBits(s2) + countBits(s3);
-        return protectedSide * sides + protectedBothWays * countBits((s0 | s2) & (s1 | s3));
+        const Bits s0 = Squares::template step<0>(pieces);
+        const Bits s1 = Squares::template step<1>(pieces);
+        const Bits bothWays = (s0 | Squares::template step<2>(pieces)) &
+                              (s1 | Squares::template step<3>(pieces)) & pieces & Squares::inside;
+        const int pairs = countBits(s0 & pieces) + countBits(s1 & pieces);
+        return 2 * protectedSide * pairs + protectedBothWays * countBits(bothWays);
     }
     // White's points minus black's for the men on a free path to promotion; short-king rules give
     // nothing for those.
@@ -103,11 +104,14 @@ private:
         return (within(margin) ? kingInCentre : 0) + (within(1) ? kingOffEdge : kingOnEdge);
     }
 
-    // The pieces whose neighbour in direction d protects them.
-    template <int d>
-    static Bits guarded(Bits pieces) {
-        return pieces &
-               (Squares::template step<oppositeDirection(d)>(pieces) | Squares::template rim<d>);
+    // What the edge protects a piece on the square: a side for each direction that leads off the
+    // board, and both ways, since two directions next to each other do.
+    static constexpr int edgeProtection(Bits square) {
+        const int sides = countBits(square & Squares::template rim<0>) +
+                          countBits(square & Squares::template rim<1>) +
+                          countBits(square & Squares::template rim<2>) +
+                          countBits(square & Squares::template rim<3>);
+        return sides == 0 ? 0 : protectedSide * sides + protectedBothWays;
     }
 
     template <bool White>

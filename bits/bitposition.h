@@ -81,27 +81,29 @@ struct BitPosition {
     // The position's key, as board::HKey() computes it over all 144 squares of the largest board.
     // There each square shifts the key by one bit, the bit that leaves the lower 31 coming back at
     // the lower end: an empty square just rotates those 31 bits (the top bit only mirrors the
-    // lowest). So only the pieces need be visited. A man's lowest bit meets the one that came back
-    // as a carry.
+    // lowest). So only the pieces need be visited, and instead of the key their codes can be
+    // rotated, the other way and beforehand. A code's bits change the key's, but for a man's lowest
+    // bit: it meets the one that came back as a carry, and is added.
     unsigned int key(bool whiteToMove) const {
-        constexpr int lastSquare = maxBoardSize * maxBoardSize - 1;
-        std::uint32_t low = whiteToMove ? 1 : 0;
-        int square = -1;
+        constexpr int last = Squares::index(N - 1, N - 1);
+        constexpr bool isLastOfAll = N == maxBoardSize;
+        std::uint32_t ring = whiteToMove ? 1 : 0;
         for (int w = 0; w < wordsOf(white); ++w) {
             const std::uint64_t blackWord = word(black, w);
             const std::uint64_t kingsWord = word(kings, w);
-            for (std::uint64_t rest = word(white, w) | blackWord; rest != 0;) {
+            std::uint64_t rest = word(white, w) | blackWord;
+            if (isLastOfAll && w == last / 64)
+                rest &= ~(std::uint64_t{1} << last % 64);
+            while (rest != 0) {
                 const int i = takeLowest(rest);
-                const int at = Squares::sequence[static_cast<unsigned>(64 * w + i)];
-                low = rotate31(low, at - square);
-                square = at;
-                const std::uint32_t code = codeOf(hasBit(blackWord, i), hasBit(kingsWord, i));
-                if (N == maxBoardSize && at == lastSquare)
-                    return withTopBit(low, code);
-                low = ((low ^ code) + ((low & code & 1) << 1)) & mask31;
+                const unsigned kind = 2 * hasBit(blackWord, i) + hasBit(kingsWord, i);
+                const KeyStep step = keySteps[4 * static_cast<unsigned>(64 * w + i) + kind];
+                ring = addInRing(ring ^ step.changed, step.added);
             }
         }
-        low = rotate31(low, lastSquare - square);
+        const std::uint32_t low = rotate31(ring, maxBoardSize * maxBoardSize);
+        if (isLastOfAll && hasBit(occupied(), last))
+            return withTopBit(low, codeOf(hasBit(black, last), hasBit(kings, last)));
         return low | low << 31;
     }
 
@@ -125,12 +127,35 @@ private:
         static_assert(whiteMan == 5 && whiteKing == 6 && blackMan == 9 && blackKing == 10);
         return whiteMan + 4U * (isBlack ? 1 : 0) + (isKing ? 1 : 0);
     }
-    static std::uint32_t rotate31(std::uint32_t low, int by) {
-        while (by > 31)
-            by -= 31;
-        const std::uint64_t shifted = std::uint64_t{low} << by;
+    static constexpr std::uint32_t rotate31(std::uint32_t low, int by) {
+        const std::uint64_t shifted = std::uint64_t{low} << by % 31;
         return static_cast<std::uint32_t>((shifted & mask31) | shifted >> 31);
     }
+    // The sum of 31 bits and one of them. A carry comes round from the highest bit to the lowest,
+    // as far as the bit that was added: beyond that it is lost, where the key had its highest.
+    static std::uint32_t addInRing(std::uint32_t ring, std::uint32_t bit) {
+        if (ring == mask31 && bit != 0)
+            return 0;
+        const std::uint32_t sum = ring + bit;
+        return (sum & mask31) + (sum >> 31);
+    }
+
+    // What a piece does to the key: bits that it changes and the one that it adds, rotated as the
+    // key is not. By square, four for the kinds of pieces.
+    struct KeyStep {
+        std::uint32_t changed;
+        std::uint32_t added;
+    };
+    static constexpr std::array<KeyStep, 4 *Squares::bitCount> keySteps = [] {
+        std::array<KeyStep, 4 * Squares::bitCount> table{};
+        for (unsigned i = 0; i < table.size(); ++i) {
+            const std::uint32_t code = codeOf((i & 2) != 0, (i & 1) != 0);
+            const int back = 31 - (Squares::sequence[i / 4] + 1) % 31;
+            table[i] = {rotate31(code & ~1U, back), rotate31(code & 1, back)};
+        }
+        return table;
+    }();
+
     // The step over an occupied last square, in full: nothing mirrors the top bit after it.
     static std::uint32_t withTopBit(std::uint32_t low, std::uint32_t code) {
         const std::uint32_t carry = low & 1;

@@ -20,11 +20,15 @@ class BitTable {
 public:
     explicit BitTable(hashTable &table)
         : table_(table), index_(indexSizeFor(table.size)),
-          pieces_(static_cast<std::size_t>(table.size)), scratch_(N) {}
+          stored_(std::bit_ceil(index_.size() / 8)), pieces_(static_cast<std::size_t>(table.size)),
+          scratch_(N) {}
 
     // The stored record of the position, null when the table would not find it.
     const board *find(const BitPosition<N> &p, bool whiteToMove) {
-        const Entry entry = lookUp(p, whiteToMove);
+        const std::size_t h = hash(p);
+        if (!mayBeStored(h))
+            return nullptr;
+        const Entry entry = lookUp(p, whiteToMove, h);
         if (!entry.otherSide)
             return entry.slot < 0 ? nullptr : &table_.Tboards[entry.slot];
         unsigned int slot = 0;
@@ -38,7 +42,7 @@ public:
                 int beta) {
         if (table_.count == table_.size)
             return;
-        const Entry entry = lookUp(p, whiteToMove);
+        const Entry entry = lookUp(p, whiteToMove, hash(p));
         if (entry.slot >= 0 && !entry.otherSide)
             return;
         unsigned int slot = 0;
@@ -80,15 +84,17 @@ private:
 
     void note(const BitPosition<N> &p, bool whiteToMove, unsigned int slot) {
         pieces_[slot] = p;
-        std::size_t i = home(p);
+        const std::size_t h = hash(p);
+        stored_[filterWord(h)] |= filterBit(h);
+        std::size_t i = home(h);
         while (index_[i] != 0)
             i = next(i);
         index_[i] = indexValue(slot, whiteToMove);
     }
 
-    Entry lookUp(const BitPosition<N> &p, bool whiteToMove) const {
+    Entry lookUp(const BitPosition<N> &p, bool whiteToMove, std::size_t h) const {
         Entry entry;
-        for (std::size_t i = home(p); index_[i] != 0; i = next(i)) {
+        for (std::size_t i = home(h); index_[i] != 0; i = next(i)) {
             const int slot = index_[i] / 2 - 1;
             if (!(pieces_[static_cast<unsigned>(slot)] == p))
                 continue;
@@ -100,7 +106,13 @@ private:
         return entry;
     }
 
-    std::size_t home(const BitPosition<N> &p) const { return hash(p) & (index_.size() - 1); }
+    // Most positions asked for are not stored. A set of bits, eight for every place of the index,
+    // tells so of most of them.
+    bool mayBeStored(std::size_t h) const { return (stored_[filterWord(h)] & filterBit(h)) != 0; }
+    std::size_t filterWord(std::size_t h) const { return h >> 6 & (stored_.size() - 1); }
+    static std::uint64_t filterBit(std::size_t h) { return std::uint64_t{1} << (h & 63); }
+
+    std::size_t home(std::size_t h) const { return h & (index_.size() - 1); }
     std::size_t next(std::size_t i) const { return (i + 1) & (index_.size() - 1); }
 
     // Follows the table's probe path to the first slot that is free or, unless the position `isNew`
@@ -126,6 +138,7 @@ private:
 
     hashTable &table_;
     std::vector<int> index_;             // see indexValue()
+    std::vector<std::uint64_t> stored_;  // a filter, see mayBeStored()
     std::vector<BitPosition<N>> pieces_; // by slot
     board scratch_;
 };

@@ -125,7 +125,7 @@ private:
         node.prepareMoves(node.budget() + (node.mustCapture() ? captureExtension : 0));
         for (int i = node.moves() - 1; i >= 0; --i) {
             const Score value = searchMove(node, i, alpha, beta);
-            if (value.isNone())
+            if (value.value == Score::none)
                 continue;
             if (value > best) {
                 best = value;
@@ -153,9 +153,7 @@ private:
             else
                 value = node.search(beta, alpha);
         }
-        if (value.isNone())
-            value.value = Score::none;
-        else
+        if (value.value != Score::none)
             value.neg();
         node.leave(i, value.value);
         return value;

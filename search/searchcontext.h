@@ -41,7 +41,8 @@ public:
     void countNode(int level, int moves) {
         ++counts_.nodes;
         counts_.moves += moves;
-        counts_.maxLevel = std::max(counts_.maxLevel, level);
+        if (counts_.maxLevel < level)
+            counts_.maxLevel = level;
         if (--AbstractEngine::eventLoop < 0)
             processEvents();
     }
@@ -54,8 +55,8 @@ private:
     // Counts since the last flush; the statistics' own counters stop at the largest int.
     struct Counts {
         qint64 nodes = 0;
-        qint64 moves = 0;
         qint64 staticValues = 0;
+        qint64 moves = 0;
         qint64 cutoffs = 0;
         qint64 sacrifices = 0;
         qint64 hashHits = 0;
