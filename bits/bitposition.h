@@ -58,10 +58,12 @@ struct BitPosition {
     // Writes the pieces into the squares of a board of this size.
     void writeTo(board &b) const {
         b.clear();
-        for (Bits rest = occupied(); rest != 0;) {
+        unsigned char *const squares = &b.squares[0][0];
+        const BitPosition p = *this; // that writing bytes might not change it
+        for (Bits rest = p.occupied(); rest != 0;) {
             const int i = takeLowest(rest);
-            b.Get(Squares::squareOf(i)) =
-                static_cast<unsigned char>(codeOf(hasBit(black, i), hasBit(kings, i)));
+            squares[Squares::sequence[static_cast<unsigned>(i)]] =
+                static_cast<unsigned char>(codeOf(hasBit(p.black, i), hasBit(p.kings, i)));
         }
     }
 
@@ -78,35 +80,6 @@ struct BitPosition {
 
     bool operator==(const BitPosition &) const = default;
 
-    // The position's key, as board::HKey() computes it over all 144 squares of the largest board.
-    // There each square shifts the key by one bit, the bit that leaves the lower 31 coming back at
-    // the lower end: an empty square just rotates those 31 bits (the top bit only mirrors the
-    // lowest). So only the pieces need be visited, and instead of the key their codes can be
-    // rotated, the other way and beforehand. A code's bits change the key's, but for a man's lowest
-    // bit: it meets the one that came back as a carry, and is added.
-    unsigned int key(bool whiteToMove) const {
-        constexpr int last = Squares::index(N - 1, N - 1);
-        constexpr bool isLastOfAll = N == maxBoardSize;
-        std::uint32_t ring = whiteToMove ? 1 : 0;
-        for (int w = 0; w < wordsOf(white); ++w) {
-            const std::uint64_t blackWord = word(black, w);
-            const std::uint64_t kingsWord = word(kings, w);
-            std::uint64_t rest = word(white, w) | blackWord;
-            if (isLastOfAll && w == last / 64)
-                rest &= ~(std::uint64_t{1} << last % 64);
-            while (rest != 0) {
-                const int i = takeLowest(rest);
-                const unsigned kind = 2 * hasBit(blackWord, i) + hasBit(kingsWord, i);
-                const KeyStep step = keySteps[4 * static_cast<unsigned>(64 * w + i) + kind];
-                ring = addInRing(ring ^ step.changed, step.added);
-            }
-        }
-        const std::uint32_t low = rotate31(ring, maxBoardSize * maxBoardSize);
-        if (isLastOfAll && hasBit(occupied(), last))
-            return withTopBit(low, codeOf(hasBit(black, last), hasBit(kings, last)));
-        return low | low << 31;
-    }
-
     // The position after a move of the side; crowned where the piece's way ends.
     template <bool White>
     BitPosition after(const BitMove<N> &m) const {
@@ -120,7 +93,43 @@ struct BitPosition {
         return next;
     }
 
+    // The position's key, as board::HKey() computes it over all 144 squares of the largest board.
+    // There each square shifts the key by one bit, the bit that leaves the lower 31 coming back at
+    // the lower end: an empty square just rotates those 31 bits (the top bit only mirrors the
+    // lowest). So only the pieces need be visited, and instead of the key their codes can be
+    // rotated, the other way and beforehand. A code's bits change the key's, but for a man's lowest
+    // bit: it meets the one that came back as a carry, and is added.
+    unsigned int key(bool whiteToMove) const {
+        return kings == 0 ? keyOf<false>(whiteToMove) : keyOf<true>(whiteToMove);
+    }
+
 private:
+    template <bool HasKings>
+    unsigned int keyOf(bool whiteToMove) const {
+        constexpr int last = Squares::index(N - 1, N - 1);
+        constexpr bool isLastOfAll = N == maxBoardSize;
+        std::uint32_t ring = whiteToMove ? 1 : 0;
+        for (int w = 0; w < wordsOf(white); ++w) {
+            const std::uint64_t blackWord = word(black, w);
+            const std::uint64_t kingsWord = word(kings, w);
+            std::uint64_t rest = word(white, w) | blackWord;
+            if (isLastOfAll && w == last / 64)
+                rest &= ~(std::uint64_t{1} << last % 64);
+            while (rest != 0) {
+                const int i = takeLowest(rest);
+                const bool king = HasKings && hasBit(kingsWord, i);
+                const KeySteps &steps = keySteps[static_cast<unsigned>(64 * w + i)];
+                ring ^= steps.changed[hasBit(blackWord, i)][king];
+                if (!king)
+                    ring = addInRing(ring, steps.added);
+            }
+        }
+        const std::uint32_t low = rotate31(ring, maxBoardSize * maxBoardSize);
+        if (isLastOfAll && hasBit(occupied(), last))
+            return withTopBit(low, codeOf(hasBit(black, last), hasBit(kings, last)));
+        return low | low << 31;
+    }
+
     static constexpr std::uint32_t mask31 = 0x7fffffff;
 
     static constexpr std::uint32_t codeOf(bool isBlack, bool isKing) {
@@ -134,24 +143,28 @@ private:
     // The sum of 31 bits and one of them. A carry comes round from the highest bit to the lowest,
     // as far as the bit that was added: beyond that it is lost, where the key had its highest.
     static std::uint32_t addInRing(std::uint32_t ring, std::uint32_t bit) {
-        if (ring == mask31 && bit != 0)
+        if (ring == mask31)
             return 0;
         const std::uint32_t sum = ring + bit;
         return (sum & mask31) + (sum >> 31);
     }
 
-    // What a piece does to the key: bits that it changes and the one that it adds, rotated as the
-    // key is not. By square, four for the kinds of pieces.
-    struct KeyStep {
-        std::uint32_t changed;
+    // What a piece on a square does to the key: the bits that it changes, by colour and kind, and
+    // the one that a man adds, rotated as the key is not.
+    struct KeySteps {
+        std::uint32_t changed[2][2];
         std::uint32_t added;
     };
-    static constexpr std::array<KeyStep, 4 *Squares::bitCount> keySteps = [] {
-        std::array<KeyStep, 4 * Squares::bitCount> table{};
+    static constexpr std::array<KeySteps, Squares::bitCount> keySteps = [] {
+        std::array<KeySteps, Squares::bitCount> table{};
         for (unsigned i = 0; i < table.size(); ++i) {
-            const std::uint32_t code = codeOf((i & 2) != 0, (i & 1) != 0);
-            const int back = 31 - (Squares::sequence[i / 4] + 1) % 31;
-            table[i] = {rotate31(code & ~1U, back), rotate31(code & 1, back)};
+            const int back = 31 - (Squares::sequence[i] + 1) % 31;
+            for (const bool isBlack : {false, true}) {
+                for (const bool isKing : {false, true})
+                    table[i].changed[isBlack][isKing] =
+                        rotate31(codeOf(isBlack, isKing) & ~1U, back);
+            }
+            table[i].added = rotate31(1, back);
         }
         return table;
     }();

@@ -40,8 +40,26 @@ public:
     // that is there was made in this iteration, at the same horizon, and stays.
     void insert(const BitPosition<N> &p, bool whiteToMove, int ply, int value, int alpha0,
                 int beta) {
-        if (table_.count == table_.size)
-            return;
+        if (table_.count < table_.size)
+            insertWithRoom(p, whiteToMove, ply, value, alpha0, beta);
+    }
+
+    // Takes note that a position was stored by other means than insert().
+    void note(const board &b) {
+        unsigned int slot = 0;
+        if (table_.find(&b, slot) == 1)
+            note(BitPosition<N>(b), b.whiteToMove, slot);
+    }
+
+private:
+    // What the index knows of a position.
+    struct Entry {
+        int slot = -1;          // where it is stored, -1 when it is not
+        bool otherSide = false; // its pieces are stored with the other side to move
+    };
+
+    [[gnu::noinline]] void insertWithRoom(const BitPosition<N> &p, bool whiteToMove, int ply,
+                                          int value, int alpha0, int beta) {
         const Entry entry = lookUp(p, whiteToMove, hash(p));
         if (entry.slot >= 0 && !entry.otherSide)
             return;
@@ -58,20 +76,6 @@ public:
         table_.place(slot, &scratch_);
         note(p, whiteToMove, slot);
     }
-
-    // Takes note that a position was stored by other means than insert().
-    void note(const board &b) {
-        unsigned int slot = 0;
-        if (table_.find(&b, slot) == 1)
-            note(BitPosition<N>(b), b.whiteToMove, slot);
-    }
-
-private:
-    // What the index knows of a position.
-    struct Entry {
-        int slot = -1;          // where it is stored, -1 when it is not
-        bool otherSide = false; // its pieces are stored with the other side to move
-    };
 
     static std::size_t indexSizeFor(int entries) {
         return std::bit_ceil(static_cast<std::size_t>(entries) * 2);
