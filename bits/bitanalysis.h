@@ -22,20 +22,14 @@ public:
         flood(whiteToMove);
     }
 
-    // A cheap look that tells most positions for which the analysis has nothing to say: surely no
-    // side can reach its promotion row, and the mobility figure is nil.
-    static bool isIdle(const BitPosition<N> &p) {
-        return countBits(p.white) >= mostCounted && countBits(p.black) >= mostCounted &&
-               !mayPass<true>(p) && !mayPass<false>(p);
+    // Some side's mobility figure may be below the most that is counted.
+    static bool fewPieces(const BitPosition<N> &p) {
+        return countBits(p.white) < mostCounted || countBits(p.black) < mostCounted;
     }
+    // A cheap look that tells of most positions that no side can reach its promotion row.
+    static bool mayPass(const BitPosition<N> &p) { return mayPass<true>(p) || mayPass<false>(p); }
 
-    bool whiteCanPass() const {
-        return (white_.reached & Squares::template promotionRow<true>) != 0;
-    }
-    bool blackCanPass() const {
-        return (black_.reached & Squares::template promotionRow<false>) != 0;
-    }
-    bool canPass() const { return whiteCanPass() || blackCanPass(); }
+    bool canPass() const { return canPass<true>(white_) || canPass<false>(black_); }
 
     // White men with a free path to promotion; those on row 0 are not looked at.
     Bits whitePassageMen() const {
@@ -69,6 +63,11 @@ private:
             open = claimable;
         }
     };
+
+    template <bool White>
+    static bool canPass(const Side &side) {
+        return (side.reached & Squares::template promotionRow<White>) != 0;
+    }
 
     // The squares that pieces on `set` control. Squares on the board's edge never are.
     static Bits neighbourhood(Bits set) { return Squares::around(set) & Squares::inside; }
@@ -132,6 +131,8 @@ private:
     template <bool White>
     static Bits passageMen(const Side &side) {
         Bits passage = 0;
+        if (!canPass<White>(side))
+            return passage;
         for (int layer = side.last; layer > 1; --layer) {
             const Bits ways =
                 Squares::template forward<!White>(passage) | Squares::template promotionRow<White>;

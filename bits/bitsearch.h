@@ -93,9 +93,11 @@ public:
     Score material() { return {value(0), ply_}; }
 
     [[gnu::always_inline]] Score staticValue() {
-        if (BitAnalysis<N>::isIdle(position_))
-            return material();
-        return analysedValue();
+        // Beyond the horizon a run delays nothing, and short-king rules give nothing for it.
+        const bool runsCount = Rules.flyingKings || level_ == horizon_;
+        if (Analysis::fewPieces(position_) || (runsCount && Analysis::mayPass(position_)))
+            return analysedValue();
+        return material();
     }
 
     void prepareMoves(int childBudget) {
@@ -147,7 +149,8 @@ public:
 
 private:
     using Generator = BitMoveGenerator<N, Rules, White>;
-    using Bits = typename DarkSquares<N>::Bits;
+    using Analysis = BitAnalysis<N>;
+    using Material = BitMaterial<N, Rules.flyingKings>;
 
     // What all nodes have in common that the node above, or the search, will visit in turn. Their
     // moves come on the stack from `first` on. They begin with an empty line.
@@ -164,7 +167,6 @@ private:
 
     // The static value, `further` points for white being added.
     int value(int further) {
-        using Material = BitMaterial<N, Rules.flyingKings>;
         context().countStaticValue();
         if (protection_ == unknown)
             protection_ = Material::protection(position_.template side<White>());
@@ -175,14 +177,12 @@ private:
     }
 
     [[gnu::noinline]] Score analysedValue() {
-        const BitAnalysis<N> analysis(position_, White);
+        const Analysis analysis(position_, White);
         int further = AbstractEngine::freedomValue * analysis.freedom();
         if (analysis.canPass()) {
             if (level_ < horizon_ + 1)
                 return {Score::none, 0};
-            if constexpr (Rules.flyingKings)
-                further += BitMaterial<N, true>::passages(analysis.whitePassageMen(),
-                                                          analysis.blackPassageMen());
+            further += Material::passages(analysis.whitePassageMen(), analysis.blackPassageMen());
         }
         return {value(further), ply_};
     }

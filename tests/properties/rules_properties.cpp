@@ -54,11 +54,10 @@ std::string valuesOnBits(const BitPosition<Form::squares> &p) {
     const BitAnalysis<Form::squares> bits(p, White);
     const BitMaterial<Form::squares, Form::rules.flyingKings> material(*AbstractEngine::pSQV,
                                                                        AbstractEngine::isGambit);
-    const auto white = bits.whiteCanPass() ? bits.whitePassageMen() : 0;
-    const auto black = bits.blackCanPass() ? bits.blackPassageMen() : 0;
     const int side = White ? 1 : -1;
+    const int withPassages = material.balance(p, bits.whitePassageMen(), bits.blackPassageMen());
     return valuesText(bits.canPass(), side * AbstractEngine::freedomValue * bits.freedom(),
-                      side * material.balance(p, 0, 0), side * material.balance(p, white, black));
+                      side * material.balance(p, 0, 0), side * withPassages);
 }
 
 template <class Form, bool White>
