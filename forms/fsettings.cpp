@@ -83,7 +83,7 @@ QHBoxLayout *fsettings::addRow(QLabel *label, QComboBox *combo) {
     row->setSpacing(formSpacing);
     formLayout->addLayout(row);
     row->addWidget(label);
-    row->addWidget(combo);
+    row->addWidget(combo, 1);
     return row;
 }
 
@@ -122,4 +122,17 @@ void fsettings::setFonts() {
         formfonts::setPointSize(label, labelPoints);
     for (QComboBox *combo : {cmbRules, cmbSize, cmbLevel})
         formfonts::setPointSize(combo, labelPoints);
+    alignChoosers();
+}
+
+// The rows are layouts of their own: their combo boxes begin in one place and are of one width when
+// the labels are.
+void fsettings::alignChoosers() {
+    const std::initializer_list<QLabel *> labels = {TextLabel1_2, TextLabel1_2_2, TextLabel1,
+                                                    TextLabelP};
+    int widest = 0;
+    for (const QLabel *label : labels)
+        widest = qMax(widest, label->sizeHint().width());
+    for (QLabel *label : labels)
+        label->setMinimumWidth(widest);
 }

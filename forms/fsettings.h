@@ -57,6 +57,7 @@ private:
     void addRulesAndSize();
     void addLevelAndPlayers();
     void setFonts();
+    void alignChoosers();
 };
 
 #endif

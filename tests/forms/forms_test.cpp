@@ -184,6 +184,10 @@ void expectAllToFit() {
                 expectToFit(*widget, text);
         }
     }
+    for (const QComboBox *combo : {settings.cmbRules, settings.cmbSize, settings.cmbPlayers}) {
+        EXPECT_EQ(combo->x(), settings.cmbLevel->x());
+        EXPECT_EQ(combo->width(), settings.cmbLevel->width());
+    }
     for (const char *state : {"*** THINKING ***", "Your Move", "You Must Capture", "Game Over"})
         expectToFit(*game.lblThinking, QCoreApplication::translate("Draughts", state));
     expectToFit(*game.labelScore, "30/30");
