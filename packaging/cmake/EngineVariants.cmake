@@ -17,8 +17,11 @@ function(engine_variant target place)
             PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 endfunction()
 
-# The full path: a relative one is found by way of /proc, which need not be there.
-set_target_properties(tavlora PROPERTIES INSTALL_RPATH ${CMAKE_INSTALL_FULL_LIBDIR}/tavlora)
+# First as seen from the program, so that an installation works from any folder; then in full, since
+# the loader learns its program's folder from /proc, which need not be there.
+file(RELATIVE_PATH from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR}/tavlora)
+set_target_properties(tavlora PROPERTIES
+    INSTALL_RPATH "$ORIGIN/${from_program};${CMAKE_INSTALL_FULL_LIBDIR}/tavlora")
 engine_variant(draughts_engine "")
 
 if(DRAUGHTS_FAST_LEVEL)
