@@ -80,6 +80,7 @@ void BoardCell::doAction(const QString &name) {
         return;
     const XY square = table_->squareOf(index_);
     if (name == setFocusAction()) {
+        view->activateWindow();
         view->setFocus(Qt::ShortcutFocusReason);
         view->moveCursor(square);
     } else if (name == pressAction()) {
