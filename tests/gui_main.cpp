@@ -8,7 +8,6 @@ namespace {
 
 // A developer's own settings must not move pixels or change texts that tests look at.
 void prepareToolkit() {
-    qputenv("QT_FONT_DPI", "72");
     qputenv("QT_SCALE_FACTOR", "1");
     qunsetenv("QT_STYLE_OVERRIDE");
     for (const char *language : {"LANGUAGE", "LC_ALL", "LANG"})

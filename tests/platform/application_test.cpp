@@ -78,8 +78,6 @@ TEST(FormScaleFactor, FitsTheScreenInQuarterSteps) {
                  {.screen = {1024, 600}, .factor = 1.75},
                  {.screen = {800, 600}, .panel = 32, .factor = 1.5},
                  {.screen = {2560, 1440}, .panel = 32, .factor = 3},
-                 {.screen = {0, 0}, .factor = 1},
-                 {.screen = {1024, 600}, .wish = larger, .factor = 1.75},
                  {.screen = {1366, 768}, .wish = larger, .factor = 2.25},
                  {.screen = {1920, 1080}, .wish = larger, .factor = 3},
                  {.screen = {1920, 1080}, .wish = smaller, .factor = 1.25},
@@ -128,7 +126,6 @@ TEST(CommandLine, ScalesTheGameOrEndsTheProgram) {
                  {.words = {"-style", "windows"}},
                  {.words = {"--help"}, .status = 0},
                  {.words = {"--scale", "9"}, .status = 2},
-                 {.words = {"--fast"}, .status = 2},
                  {.words = {"game"}, .status = 2}};
     for (const auto &c : cases) {
         qunsetenv("QT_SCALE_FACTOR");
