@@ -82,7 +82,7 @@ LegalMove *Draughts::searchMove() {
     BestLine line;
     lblThinking->setText(tr("*** THINKING ***"));
     enter(Phase::Thinking);
-    announcer->announce(tr("The computer thinks."));
+    announcer->announceLater(tr("The computer thinks."));
     return pEngine->getBestMove(score, line);
 }
 

@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int holdMs = 500;
+
 class Notification : public QAccessibleObject {
 public:
     explicit Notification(Announcer *announcer) : QAccessibleObject(announcer) {}
@@ -40,10 +42,19 @@ void tell(QObject *object, QAccessible::Event what) {
 
 Announcer::Announcer(QWidget *window) : QObject(window) {
     QAccessible::installFactory(newNotification);
+    later_.setSingleShot(true);
+    later_.setInterval(holdMs);
+    connect(&later_, &QTimer::timeout, this, [this] { announce(laterSentence_); });
+}
+
+void Announcer::announceLater(const QString &sentence) {
+    laterSentence_ = sentence;
+    later_.start();
 }
 
 // Readers that keep a copy of the name renew it when they are told to.
 void Announcer::announce(const QString &sentence) {
+    later_.stop();
     notes_ << sentence;
     sentence_ = sentence;
     text_ = std::exchange(notes_, {}).join(QLatin1Char(' '));

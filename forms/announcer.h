@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 class QWidget;
 
@@ -20,6 +21,9 @@ public:
 
     // Kept for the next announcement.
     void note(const QString &sentence) { notes_ << sentence; }
+    // Says the notes and then this, unless something else is announced within half a second. The
+    // notes are said with that then: one thing at once would cut the other off.
+    void announceLater(const QString &sentence);
     // Says the notes and then this.
     void announce(const QString &sentence);
     // As announce(), but without notes it does not say the same again.
@@ -29,6 +33,8 @@ public:
     QString text() const { return text_; }
 
 private:
+    QTimer later_;
+    QString laterSentence_;
     QStringList notes_;
     QString sentence_; // what `text_` ends with
     QString text_;
