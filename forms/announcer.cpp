@@ -47,6 +47,11 @@ Announcer::Announcer(QWidget *window) : QObject(window) {
     connect(&later_, &QTimer::timeout, this, [this] { announce(laterSentence_); });
 }
 
+void Announcer::note(const QString &sentence) {
+    later_.stop();
+    notes_ << sentence;
+}
+
 void Announcer::announceLater(const QString &sentence) {
     laterSentence_ = sentence;
     later_.start();
@@ -54,8 +59,7 @@ void Announcer::announceLater(const QString &sentence) {
 
 // Readers that keep a copy of the name renew it when they are told to.
 void Announcer::announce(const QString &sentence) {
-    later_.stop();
-    notes_ << sentence;
+    note(sentence);
     sentence_ = sentence;
     text_ = std::exchange(notes_, {}).join(QLatin1Char(' '));
     tell(this, QAccessible::NameChanged);

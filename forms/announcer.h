@@ -20,9 +20,9 @@ public:
     explicit Announcer(QWidget *window);
 
     // Kept for the next announcement.
-    void note(const QString &sentence) { notes_ << sentence; }
-    // Says the notes and then this, unless something else is announced within half a second. The
-    // notes are said with that then: one thing at once would cut the other off.
+    void note(const QString &sentence);
+    // Says the notes and then this, unless something else is noted or announced within half a
+    // second. The notes are said with that then: one thing at once would cut the other off.
     void announceLater(const QString &sentence);
     // Says the notes and then this.
     void announce(const QString &sentence);
