@@ -54,7 +54,10 @@ void Announcer::note(const QString &sentence) {
 
 void Announcer::announceLater(const QString &sentence) {
     laterSentence_ = sentence;
-    later_.start();
+    if (notes_.size() < 2)
+        later_.start();
+    else
+        announce(sentence);
 }
 
 // Readers that keep a copy of the name renew it when they are told to.

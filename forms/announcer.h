@@ -22,7 +22,8 @@ public:
     // Kept for the next announcement.
     void note(const QString &sentence);
     // Says the notes and then this, unless something else is noted or announced within half a
-    // second. The notes are said with that then: one thing at once would cut the other off.
+    // second. The notes are said with that then: one thing at once would cut the other off. Where
+    // two notes wait already it is said at once: of the computer's games against itself.
     void announceLater(const QString &sentence);
     // Says the notes and then this.
     void announce(const QString &sentence);
