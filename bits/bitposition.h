@@ -93,6 +93,19 @@ struct BitPosition {
         return next;
     }
 
+    // A well spread number for tables of our own.
+    std::size_t hash() const {
+        std::uint64_t mixed = word(white, 0) * 0xbf58476d1ce4e5b9U ^
+                              word(black, 0) * 0x94d049bb133111ebU ^
+                              word(kings, 0) * 0xd6e8feb86659fd93U;
+        if constexpr (wordsOf(Bits()) == 2) {
+            // The few squares of the second words side by side.
+            const std::uint64_t rest = word(white, 1) | word(black, 1) << 20 | word(kings, 1) << 40;
+            mixed ^= rest * 0xa0761d6478bd642fU;
+        }
+        return mixed * 0x9e3779b97f4a7c15U >> 32;
+    }
+
     // The position's key, as board::HKey() computes it over all 144 squares of the largest board.
     // There each square shifts the key by one bit, the bit that leaves the lower 31 coming back at
     // the lower end: an empty square just rotates those 31 bits (the top bit only mirrors the

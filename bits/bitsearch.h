@@ -2,6 +2,7 @@
 #ifndef BITS_BITSEARCH_H
 #define BITS_BITSEARCH_H
 
+#include "bits/analysiscache.h"
 #include "bits/bitanalysis.h"
 #include "bits/bitline.h"
 #include "bits/bitmaterial.h"
@@ -36,6 +37,7 @@ struct BitContext {
     SearchContext &search;
     const BitMaterial<N, Rules.flyingKings> material;
     BitTable<N> table;
+    AnalysisCache<N> analyses;
     MoveStack<BitMove<N>> stack;
 };
 
@@ -177,14 +179,18 @@ private:
     }
 
     [[gnu::noinline]] Score analysedValue() {
+        const AnalysisResult found =
+            context_.analyses.find(position_, White, [this] { return analyse(); });
+        if (found.canPass && level_ == horizon_)
+            return {Score::none, 0};
+        return {value(found.points), ply_};
+    }
+    AnalysisResult analyse() const {
         const Analysis analysis(position_, White);
-        int further = AbstractEngine::freedomValue * analysis.freedom();
-        if (analysis.canPass()) {
-            if (level_ < horizon_ + 1)
-                return {Score::none, 0};
-            further += Material::passages(analysis.whitePassageMen(), analysis.blackPassageMen());
-        }
-        return {value(further), ply_};
+        const int freedom = AbstractEngine::freedomValue * analysis.freedom();
+        return {freedom +
+                    Material::passages(analysis.whitePassageMen(), analysis.blackPassageMen()),
+                analysis.canPass()};
     }
 
     static constexpr int unknown = -1;

@@ -25,7 +25,7 @@ public:
 
     // The stored record of the position, null when the table would not find it.
     const board *find(const BitPosition<N> &p, bool whiteToMove) {
-        const std::size_t h = hash(p);
+        const std::size_t h = p.hash();
         if (!mayBeStored(h))
             return nullptr;
         const Entry entry = lookUp(p, whiteToMove, h);
@@ -60,7 +60,7 @@ private:
 
     [[gnu::noinline]] void insertWithRoom(const BitPosition<N> &p, bool whiteToMove, int ply,
                                           int value, int alpha0, int beta) {
-        const Entry entry = lookUp(p, whiteToMove, hash(p));
+        const Entry entry = lookUp(p, whiteToMove, p.hash());
         if (entry.slot >= 0 && !entry.otherSide)
             return;
         unsigned int slot = 0;
@@ -88,7 +88,7 @@ private:
 
     void note(const BitPosition<N> &p, bool whiteToMove, unsigned int slot) {
         pieces_[slot] = p;
-        const std::size_t h = hash(p);
+        const std::size_t h = p.hash();
         stored_[filterWord(h)] |= filterBit(h);
         std::size_t i = home(h);
         while (index_[i] != 0)
@@ -125,19 +125,6 @@ private:
         const unsigned int first = p.key(whiteToMove) % static_cast<unsigned int>(table_.size);
         return table_.probe(
             first, [&](unsigned int at) { return !isNew && pieces_[at] == p; }, slot);
-    }
-
-    static std::size_t hash(const BitPosition<N> &p) {
-        std::uint64_t mixed = word(p.white, 0) * 0xbf58476d1ce4e5b9U ^
-                              word(p.black, 0) * 0x94d049bb133111ebU ^
-                              word(p.kings, 0) * 0xd6e8feb86659fd93U;
-        if constexpr (wordsOf(decltype(p.white)()) == 2) {
-            // The few squares of the second words side by side.
-            const std::uint64_t rest =
-                word(p.white, 1) | word(p.black, 1) << 20 | word(p.kings, 1) << 40;
-            mixed ^= rest * 0xa0761d6478bd642fU;
-        }
-        return mixed * 0x9e3779b97f4a7c15U >> 32;
     }
 
     hashTable &table_;
