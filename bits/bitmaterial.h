@@ -114,14 +114,17 @@ private:
         return sides == 0 ? 0 : protectedSide * sides + protectedBothWays;
     }
 
+    // The rows that the men have advanced together, counted digit by digit of the rows' numbers.
     template <bool White>
     static int rowsAdvanced(Bits men) {
-        int rows = 0;
-        while (men != 0) {
-            const int y = Squares::squareOf(takeLowest(men)).y;
-            rows += White ? y : N - 1 - y;
-        }
-        return rows;
+        return rowDigit<White, 1>(men) + rowDigit<White, 2>(men) + rowDigit<White, 4>(men) +
+               rowDigit<White, 8>(men);
+    }
+    template <bool White, int Digit>
+    static int rowDigit(Bits men) {
+        constexpr Bits rows = Squares::select(
+            [](int, int y) { return ((White ? y : N - 1 - y) & Digit) != 0; });
+        return Digit * countBits(men & rows);
     }
 
     PiecePoints white_;
