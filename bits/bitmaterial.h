@@ -82,7 +82,7 @@ private:
             points_[2 * square + 1] = king;
         }
         int of(int square, Bits kings) const {
-            return points_[2 * square + (hasBit(kings, square) ? 1 : 0)];
+            return points_[2 * static_cast<unsigned>(square) + (hasBit(kings, square) ? 1U : 0U)];
         }
 
     private:
@@ -122,8 +122,8 @@ private:
     }
     template <bool White, int Digit>
     static int rowDigit(Bits men) {
-        constexpr Bits rows = Squares::select(
-            [](int, int y) { return ((White ? y : N - 1 - y) & Digit) != 0; });
+        constexpr Bits rows =
+            Squares::select([](int, int y) { return ((White ? y : N - 1 - y) & Digit) != 0; });
         return Digit * countBits(men & rows);
     }
 

@@ -113,10 +113,11 @@ public:
     }
 
     int enter(int i) {
-        const BitMove<N> &m = move(i);
+        const BitMove<N> m = move(i);
+        const BitPosition<N> after = position_.template after<White>(m);
+        const int gain = context_.material.template gain<White>(position_, after, m);
         Child &child = *child_;
-        child.position_ = position_.template after<White>(m);
-        const int gain = context_.material.template gain<White>(position_, child.position_, m);
+        child.position_ = after;
         child.onSquares_ = White ? onSquares_ + gain : onSquares_ - gain;
         if (m.taken != 0)
             child.protection_ = unknown;
@@ -143,8 +144,10 @@ public:
     }
 
     void addChoiceBonus(Score &result) const {
+        if (moves_ <= movesWithoutBonus)
+            return;
         int good = 0;
-        for (int i = 0; i < moves_; ++i)
+        for (int i = 0; i < moves_ && good < mostGoodMoves; ++i)
             good += isGoodMove(move(i).score, result);
         result += severalMovesBonus(result, moves_, good);
     }

@@ -20,8 +20,8 @@ class BitTable {
 public:
     explicit BitTable(hashTable &table)
         : table_(table), index_(indexSizeFor(table.size)),
-          stored_(std::bit_ceil(index_.size() / 8)), pieces_(static_cast<std::size_t>(table.size)),
-          scratch_(N) {}
+          stored_(std::bit_ceil(index_.size() / 8)), storedMask_(stored_.size() - 1),
+          pieces_(static_cast<std::size_t>(table.size)), scratch_(N) {}
 
     // The stored record of the position, null when the table would not find it.
     const board *find(const BitPosition<N> &p, bool whiteToMove) {
@@ -113,7 +113,7 @@ private:
     // Most positions asked for are not stored. A set of bits, eight for every place of the index,
     // tells so of most of them.
     bool mayBeStored(std::size_t h) const { return (stored_[filterWord(h)] & filterBit(h)) != 0; }
-    std::size_t filterWord(std::size_t h) const { return h >> 6 & (stored_.size() - 1); }
+    std::size_t filterWord(std::size_t h) const { return h >> 6 & storedMask_; }
     static std::uint64_t filterBit(std::size_t h) { return std::uint64_t{1} << (h & 63); }
 
     std::size_t home(std::size_t h) const { return h & (index_.size() - 1); }
@@ -130,6 +130,7 @@ private:
     hashTable &table_;
     std::vector<int> index_;             // see indexValue()
     std::vector<std::uint64_t> stored_;  // a filter, see mayBeStored()
+    const std::size_t storedMask_;       // one less than its size, a power of two
     std::vector<BitPosition<N>> pieces_; // by slot
     board scratch_;
 };

@@ -20,15 +20,18 @@ constexpr bool isGoodMove(int score, const Score &best) {
     return score >= best.value - goodMoveRange;
 }
 
+// More good moves than this, the best among them, count no further; a choice of so few moves is
+// none.
+inline constexpr int mostGoodMoves = 4;
+inline constexpr int movesWithoutBonus = 2;
+
 // What a node of value `best` with `moves` moves, `good` of them good, is worth more for the choice
-// it leaves. A choice of two is none, and nothing is added to decided games, nor to no value at
-// all.
+// it leaves. Nothing is added to decided games, nor to no value at all.
 constexpr int severalMovesBonus(const Score &best, int moves, int good) {
     constexpr int perMove = 7;
-    constexpr int mostCounted = 3;
-    if (best.isNone() || best.aroundGameOver() || moves <= 2)
+    if (!Score::isOrdinary(best.value) || moves <= movesWithoutBonus)
         return 0;
-    return perMove * std::min(good - 1, mostCounted);
+    return perMove * (std::min(good, mostGoodMoves) - 1);
 }
 
 #endif

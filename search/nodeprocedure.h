@@ -87,7 +87,7 @@ public:
             Score value(Score::none, 0);
             if (canScore(node.level(), node.horizon(), node.moves())) {
                 value = node.staticValue();
-                if (!value.isNone())
+                if (value.value != Score::none)
                     return turned(node, value);
             } else if (senselessSacrifice(node, alpha, beta, value)) {
                 return value;
@@ -107,7 +107,7 @@ public:
     // Seen from the parent and counted in thousands, the material balance is already below what the
     // parent is sure to get elsewhere. With few pieces left one unit more may be given.
     static bool senselessSacrifice(Node &node, int alpha, int beta, Score &value) {
-        if (Score::isNone(beta) || Score::aroundGameOver(beta) || Score::aroundGameOver(alpha))
+        if (!Score::isOrdinary(beta) || Score::aroundGameOver(alpha))
             return false;
         value = turned(node, node.material());
         const int balance = -Score::hiPart(value.value) + (AbstractEngine::isGambit ? 1 : 0);
@@ -124,9 +124,13 @@ private:
         Score best(Score::none, node.horizon());
         node.prepareMoves(node.budget() + (node.mustCapture() ? captureExtension : 0));
         for (int i = node.moves() - 1; i >= 0; --i) {
-            const Score value = searchMove(node, i, alpha, beta);
-            if (value.value == Score::none)
+            Score value = searchMove(node, i, alpha, beta);
+            if (value.value == Score::none) {
+                node.leave(i, Score::none);
                 continue;
+            }
+            value.neg();
+            node.leave(i, value.value);
             if (value > best) {
                 best = value;
                 node.setBest(i);
@@ -142,20 +146,16 @@ private:
         return best;
     }
 
-    // The value of move i in this node's view. A decided score of the last iteration stands;
+    // The value of move i, in the child's view. A decided score of the last iteration stands;
     // otherwise the table or a search answers, the child getting the bounds swapped and not
     // negated.
     static Score searchMove(Node &node, int i, int alpha, int beta) {
         Score value(-node.enter(i), node.horizon());
-        if (!value.aroundGameOver()) {
-            if (node.probe(beta, alpha, value))
-                node.context().countHashHit();
-            else
-                value = node.search(beta, alpha);
-        }
-        if (value.value != Score::none)
-            value.neg();
-        node.leave(i, value.value);
+        if (value.aroundGameOver())
+            return value;
+        if (!node.probe(beta, alpha, value))
+            return node.search(beta, alpha);
+        node.context().countHashHit();
         return value;
     }
 

@@ -38,8 +38,10 @@ struct Score {
         if (isNone())
             value = none;
     }
+    // Neither none nor decided.
+    static constexpr bool isOrdinary(int points) { return points <= decided && points >= -decided; }
     static constexpr bool aroundGameOver(int points) {
-        return !isNone(points) && (points > decided || points < -decided);
+        return !isOrdinary(points) && !isNone(points);
     }
     constexpr bool aroundGameOver() const { return aroundGameOver(value); }
 
