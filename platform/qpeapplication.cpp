@@ -28,6 +28,8 @@ QPEApplication::QPEApplication(int &argc, char **argv, Type)
         setStyle(new CompactStyle);
     keepPointSize();
     installEventFilter(&dialogControls_);
+    if (platformName().startsWith("wayland"))
+        installEventFilter(&maximisedSizes_);
 }
 
 bool QPEApplication::event(QEvent *e) {

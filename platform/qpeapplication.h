@@ -3,6 +3,7 @@
 #define PLATFORM_QPEAPPLICATION_H
 
 #include "platform/dialogcontrols.h"
+#include "platform/formwindows.h"
 #include "platform/translations.h"
 
 #include <QApplication>
@@ -10,8 +11,8 @@
 // Makes a desktop fit for the forms: prepares the display (see displaysetup.h), tells the desktop
 // who the program is (see programidentity.h), takes a compact style and 9 points for the default
 // font (also for one that the desktop's theme brings later), gives modal form dialogs their
-// controls (see dialogcontrols.h), speaks the user's language (see translations.h) and provides
-// real boxes (see guihost.h).
+// controls (see dialogcontrols.h), lets them be maximised on Wayland (see formwindows.h),
+// speaks the user's language (see translations.h) and provides real boxes (see guihost.h).
 class QPEApplication : public QApplication {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ private:
     void keepPointSize();
 
     DialogControls dialogControls_;
+    MaximisedSizes maximisedSizes_;
     Translations translations_;
 };
 

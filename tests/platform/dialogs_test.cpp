@@ -5,6 +5,7 @@
 #include "forms/formsettings.h"
 #include "forms/formstat.h"
 #include "platform/dialogcontrols.h"
+#include "platform/formwindows.h"
 #include "platform/guihost.h"
 #include "platform/qcanvas.h"
 #include "platform/qcanvasitem.h"
@@ -16,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 #include <memory>
 
@@ -125,6 +127,17 @@ TEST(ControlRow, StandsBelowTheFormHoweverOftenItIsShown) {
     const int height = settings.findChild<ControlRow *>()->rowHeight();
     EXPECT_EQ(settings.size(), QSize(209, 170 + height));
     EXPECT_EQ(settings.maximumSize(), QSize(240, 300 + height));
+}
+
+TEST(MaximisedSizes, AWindowMayBeAsLargeAsTheScreenOnceItIsMaximised) {
+    MaximisedSizes sizes;
+    qApp->installEventFilter(&sizes);
+    QWindow window;
+    window.setMaximumSize({240, 320});
+    window.show();
+    EXPECT_EQ(window.maximumSize(), QSize(240, 320));
+    window.setWindowStates(Qt::WindowMaximized);
+    EXPECT_GT(window.maximumWidth(), 4000);
 }
 
 TEST(ControlRow, IsForModalFormsWithCancelWhereThereIsAChoice) {

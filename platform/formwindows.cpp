@@ -1,0 +1,19 @@
+#include "platform/formwindows.h"
+
+#include <QEvent>
+#include <QWindow>
+
+bool MaximisedSizes::eventFilter(QObject *watched, QEvent *event) {
+    // Told while the request is being made, before the compositor says how large is the most.
+    if (event->type() == QEvent::Show && watched->isWindowType())
+        connect(static_cast<QWindow *>(watched), &QWindow::windowStateChanged, this,
+                &MaximisedSizes::dropLimit, Qt::UniqueConnection);
+    return QObject::eventFilter(watched, event);
+}
+
+// For good: back from there the window is too large for its limit for a moment.
+void MaximisedSizes::dropLimit(Qt::WindowState state) {
+    constexpr int any = (1 << 24) - 1; // the toolkit's own limit
+    if (state == Qt::WindowMaximized)
+        static_cast<QWindow *>(sender())->setMaximumSize({any, any});
+}
