@@ -131,10 +131,11 @@ private:
             while (rest != 0) {
                 const int i = takeLowest(rest);
                 const bool king = HasKings && hasBit(kingsWord, i);
-                const KeySteps &steps = keySteps[static_cast<unsigned>(64 * w + i)];
-                ring ^= steps.changed[hasBit(blackWord, i)][king];
-                if (!king)
-                    ring = addInRing(ring, steps.added);
+                const unsigned piece = 2 * static_cast<unsigned>(64 * w + i) + hasBit(blackWord, i);
+                if (king)
+                    ring ^= kingSteps[piece].changed;
+                else
+                    ring = addInRing(ring ^ manSteps[piece].changed, manSteps[piece].added);
             }
         }
         const std::uint32_t low = rotate31(ring, maxBoardSize * maxBoardSize);
@@ -156,31 +157,29 @@ private:
     // The sum of 31 bits and one of them. A carry comes round from the highest bit to the lowest,
     // as far as the bit that was added: beyond that it is lost, where the key had its highest.
     static std::uint32_t addInRing(std::uint32_t ring, std::uint32_t bit) {
-        if (ring == mask31)
-            return 0;
+        const std::uint32_t carry = ring & bit;
         const std::uint32_t sum = ring + bit;
-        return (sum & mask31) + (sum >> 31);
+        return ((sum & mask31) + (sum >> 31)) & ~carry;
     }
 
-    // What a piece on a square does to the key: the bits that it changes, by colour and kind, and
-    // the one that a man adds, rotated as the key is not.
-    struct KeySteps {
-        std::uint32_t changed[2][2];
+    // What pieces do to the key: the bits that they change and the one that they add, rotated as
+    // the key is not. By square, for white and for black.
+    struct KeyStep {
+        std::uint32_t changed;
         std::uint32_t added;
     };
-    static constexpr std::array<KeySteps, Squares::bitCount> keySteps = [] {
-        std::array<KeySteps, Squares::bitCount> table{};
-        for (unsigned i = 0; i < table.size(); ++i) {
-            const int back = 31 - (Squares::sequence[i] + 1) % 31;
-            for (const bool isBlack : {false, true}) {
-                for (const bool isKing : {false, true})
-                    table[i].changed[isBlack][isKing] =
-                        rotate31(codeOf(isBlack, isKing) & ~1U, back);
-            }
-            table[i].added = rotate31(1, back);
+    using KeySteps = std::array<KeyStep, 2 * Squares::bitCount>;
+    static constexpr KeySteps keySteps(bool isKing) {
+        KeySteps steps{};
+        for (unsigned i = 0; i < steps.size(); ++i) {
+            const std::uint32_t code = codeOf(i % 2 != 0, isKing);
+            const int back = 31 - (Squares::sequence[i / 2] + 1) % 31;
+            steps[i] = {rotate31(code & ~1U, back), rotate31(code & 1, back)};
         }
-        return table;
-    }();
+        return steps;
+    }
+    static constexpr KeySteps manSteps = keySteps(false);
+    static constexpr KeySteps kingSteps = keySteps(true);
 
     // The step over an occupied last square, in full: nothing mirrors the top bit after it.
     static std::uint32_t withTopBit(std::uint32_t low, std::uint32_t code) {
