@@ -19,10 +19,11 @@ class AnalysisCache {
 public:
     AnalysisCache() : entries_(size) {}
 
-    // The position's result; calls `analyse` for it when it is not there.
+    // The position's result; calls `analyse` for it when it is not there. `hash` is from its tally.
     template <class Analyse>
-    AnalysisResult find(const BitPosition<N> &p, bool whiteToMove, Analyse analyse) {
-        Entry &entry = entries_[(2 * p.hash() + (whiteToMove ? 1 : 0)) % size];
+    AnalysisResult find(const BitPosition<N> &p, std::uint32_t hash, bool whiteToMove,
+                        Analyse analyse) {
+        Entry &entry = entries_[(2 * hash + (whiteToMove ? 1 : 0)) % size];
         if (!(entry.position == p))
             entry = {p, analyse()};
         return entry.result;

@@ -2,7 +2,7 @@
 #ifndef BITS_BITMATERIAL_H
 #define BITS_BITMATERIAL_H
 
-#include "bits/bitposition.h"
+#include "bits/bittally.h"
 #include "eval/piecevalues.h"
 #include "eval/squaresvalue.h"
 
@@ -17,31 +17,13 @@ class BitMaterial {
 
 public:
     BitMaterial(const SquaresValue &table, bool gambit)
-        : kings_(FlyingKings ? flyingKingValues(gambit) : shortKingValues) {
-        for (int x = 0; x < N; ++x) {
-            for (int y = x % 2; y < N; y += 2) {
-                const int i = Squares::index(x, y);
-                const int king = kings_.further + (FlyingKings ? 0 : kingPlace(x, y));
-                const int edge = edgeProtection(Squares::bit(i));
-                // For black the table is read turned by half a turn.
-                white_.set(i, manValue + table.values[x][y] + edge, king + edge);
-                black_.set(i, manValue + table.values[N - 1 - x][N - 1 - y] + edge, king + edge);
-            }
-        }
-    }
+        : kings_(FlyingKings ? flyingKingValues(gambit) : shortKingValues),
+          tallies_([this, &table](bool isBlack, bool isKing, int square) {
+              return onSquare(table, isBlack, isKing, square);
+          }) {}
 
-    // White's points minus black's for the pieces on their squares, every king as a further one.
-    int onSquares(const BitPosition<N> &p) const {
-        return sum(white_, p.white, p.kings) - sum(black_, p.black, p.kings);
-    }
-    // By how much a move of the side changes that in the side's favour.
-    template <bool White>
-    int gain(const BitPosition<N> &before, const BitPosition<N> &after, const BitMove<N> &m) const {
-        const PiecePoints &own = White ? white_ : black_;
-        const PiecePoints &enemy = White ? black_ : white_;
-        const int moved = own.of(m.to, after.kings) - own.of(m.from, before.kings);
-        return m.taken == 0 ? moved : moved + sum(enemy, m.taken, before.kings);
-    }
+    // Points for the pieces on their squares, every king as a further one.
+    const BitTallies<N> &tallies() const { return tallies_; }
     // White's points minus black's for the first kings.
     int firstKings(const BitPosition<N> &p) const {
         if (p.kings == 0)
@@ -67,33 +49,21 @@ public:
                    : 0;
     }
 
-    // All of the above for a position by itself.
+    // All of that for a position by itself.
     int balance(const BitPosition<N> &p, Bits whitePassage, Bits blackPassage) const {
-        return onSquares(p) + firstKings(p) + protection(p.white) - protection(p.black) +
+        return tallies_.of(p).points() + firstKings(p) + protection(p.white) - protection(p.black) +
                passages(whitePassage, blackPassage);
     }
 
 private:
-    // What a side's man and king are worth on each square.
-    class PiecePoints {
-    public:
-        void set(int square, int man, int king) {
-            points_[2 * square] = man;
-            points_[2 * square + 1] = king;
-        }
-        int of(int square, Bits kings) const {
-            return points_[2 * static_cast<unsigned>(square) + (hasBit(kings, square) ? 1U : 0U)];
-        }
-
-    private:
-        int points_[2 * Squares::bitCount] = {};
-    };
-
-    static int sum(const PiecePoints &points, Bits pieces, Bits kings) {
-        int total = 0;
-        while (pieces != 0)
-            total += points.of(takeLowest(pieces), kings);
-        return total;
+    int onSquare(const SquaresValue &table, bool isBlack, bool isKing, int square) const {
+        const XY at = Squares::squareOf(square);
+        const int edge = edgeProtection(Squares::bit(square));
+        if (isKing)
+            return kings_.further + edge + (FlyingKings ? 0 : kingPlace(at.x, at.y));
+        // For black the table is read turned by half a turn.
+        return manValue + edge +
+               (isBlack ? table.values[N - 1 - at.x][N - 1 - at.y] : table.values[at.x][at.y]);
     }
 
     static constexpr int kingPlace(int x, int y) {
@@ -127,9 +97,8 @@ private:
         return Digit * countBits(men & rows);
     }
 
-    PiecePoints white_;
-    PiecePoints black_;
-    KingValues kings_;
+    const KingValues kings_;
+    const BitTallies<N> tallies_;
 };
 
 #endif

@@ -24,8 +24,9 @@ struct BitContext {
           table(*AbstractEngine::pHT) {}
 
     // As AbstractEngine::canUseHT.
-    bool probe(const BitPosition<N> &child, bool whiteToMove, int beta, int alpha, Score &value) {
-        const board *stored = table.find(child, whiteToMove);
+    bool probe(const BitPosition<N> &child, std::uint32_t hash, bool whiteToMove, int beta,
+               int alpha, Score &value) const {
+        const board *stored = table.find(child, hash, whiteToMove);
         if (stored == nullptr || alpha < stored->hashBeta || beta < stored->hashAlpha ||
             stored->hashHorizon < AbstractEngine::absHorizon)
             return false;
@@ -57,7 +58,7 @@ public:
     // Searches a position as a node that no other is above.
     Score searchAsTop(const BitPosition<N> &position, int ply, int budget, int alpha, int beta) {
         position_ = position;
-        onSquares_ = context_.material.onSquares(position);
+        tally_ = context_.material.tallies().of(position);
         setUp(ply, budget, 0);
         return NodeProcedure<BitNode>::run(*this, alpha, beta);
     }
@@ -115,17 +116,17 @@ public:
     int enter(int i) {
         const BitMove<N> m = move(i);
         const BitPosition<N> after = position_.template after<White>(m);
-        const int gain = context_.material.template gain<White>(position_, after, m);
         Child &child = *child_;
+        child.tally_ =
+            context_.material.tallies().template after<White>(tally_, position_, after, m);
         child.position_ = after;
-        child.onSquares_ = White ? onSquares_ + gain : onSquares_ - gain;
         if (m.taken != 0)
             child.protection_ = unknown;
         return Score::none;
     }
 
     bool probe(int beta, int alpha, Score &value) {
-        return context_.probe(child_->position_, !White, beta, alpha, value);
+        return context_.probe(child_->position_, child_->tally_.hash(), !White, beta, alpha, value);
     }
 
     Score search(int alpha, int beta) { return NodeProcedure<Child>::run(*child_, alpha, beta); }
@@ -140,7 +141,7 @@ public:
 
     void record(int value, int alpha0, int beta, bool insert) {
         if (insert)
-            context_.table.insert(position_, White, ply_, value, alpha0, beta);
+            context_.table.insert(position_, tally_.hash(), White, ply_, value, alpha0, beta);
     }
 
     void addChoiceBonus(Score &result) const {
@@ -176,14 +177,14 @@ private:
         if (protection_ == unknown)
             protection_ = Material::protection(position_.template side<White>());
         const int moved = Material::protection(position_.template side<!White>());
-        const int whites = onSquares_ + context_.material.firstKings(position_) + further;
+        const int whites = tally_.points() + context_.material.firstKings(position_) + further;
         return (White ? whites : -whites) + protection_ - moved +
                context().statistic().randomTerm();
     }
 
     [[gnu::noinline]] Score analysedValue() {
         const AnalysisResult found =
-            context_.analyses.find(position_, White, [this] { return analyse(); });
+            context_.analyses.find(position_, tally_.hash(), White, [this] { return analyse(); });
         if (found.canPass && level_ == horizon_)
             return {Score::none, 0};
         return {value(found.points), ply_};
@@ -202,7 +203,7 @@ private:
     const int level_;
     std::unique_ptr<Child> child_;
     BitPosition<N> position_;
-    int onSquares_ = 0;        // see BitMaterial
+    BitTally tally_;
     int protection_ = unknown; // of the side to move: the same after all quiet moves to here
     int ply_ = 0;
     int budget_ = 0;
@@ -232,7 +233,8 @@ public:
     }
 
     bool probe(int beta, int alpha, Score &value) override {
-        return context_.probe(child_, whiteToMove_, beta, alpha, value);
+        return context_.probe(child_, context_.material.tallies().of(child_).hash(), whiteToMove_,
+                              beta, alpha, value);
     }
 
     Score search(int level, int depth, int alpha, int beta, BestLine &line) override {
@@ -240,7 +242,10 @@ public:
                             : run(black_, level, depth, alpha, beta, line);
     }
 
-    void noteStored(const board &b) override { context_.table.note(b); }
+    void noteStored(const board &b) override {
+        const BitPosition<N> p(b);
+        context_.table.note(b, p, context_.material.tallies().of(p).hash());
+    }
 
 private:
     using Squares = DarkSquares<N>;

@@ -2,7 +2,7 @@
 #ifndef BITS_BITTABLE_H
 #define BITS_BITTABLE_H
 
-#include "bits/bitposition.h"
+#include "bits/bitkey.h"
 #include "search/abstractengine.h"
 #include "search/hashtable.h"
 
@@ -23,32 +23,25 @@ public:
           stored_(std::bit_ceil(index_.size() / 8)), storedMask_(stored_.size() - 1),
           pieces_(static_cast<std::size_t>(table.size)), scratch_(N) {}
 
-    // The stored record of the position, null when the table would not find it.
-    const board *find(const BitPosition<N> &p, bool whiteToMove) {
-        const std::size_t h = p.hash();
-        if (!mayBeStored(h))
-            return nullptr;
-        const Entry entry = lookUp(p, whiteToMove, h);
-        if (!entry.otherSide)
-            return entry.slot < 0 ? nullptr : &table_.Tboards[entry.slot];
-        unsigned int slot = 0;
-        return follow(p, whiteToMove, false, slot) && !table_.Tempty[slot] ? &table_.Tboards[slot]
-                                                                           : nullptr;
+    // The stored record of the position, null when the table would not find it. `hash` is the
+    // position's, from its tally, here and below.
+    const board *find(const BitPosition<N> &p, std::uint32_t hash, bool whiteToMove) const {
+        return mayBeStored(hash) ? findStored(p, hash, whiteToMove) : nullptr;
     }
 
     // Stores the position with its record, unless it is stored already or has no room. A record
     // that is there was made in this iteration, at the same horizon, and stays.
-    void insert(const BitPosition<N> &p, bool whiteToMove, int ply, int value, int alpha0,
-                int beta) {
+    void insert(const BitPosition<N> &p, std::uint32_t hash, bool whiteToMove, int ply, int value,
+                int alpha0, int beta) {
         if (table_.count < table_.size)
-            insertWithRoom(p, whiteToMove, ply, value, alpha0, beta);
+            insertWithRoom(p, hash, whiteToMove, ply, value, alpha0, beta);
     }
 
     // Takes note that a position was stored by other means than insert().
-    void note(const board &b) {
+    void note(const board &b, const BitPosition<N> &p, std::uint32_t hash) {
         unsigned int slot = 0;
         if (table_.find(&b, slot) == 1)
-            note(BitPosition<N>(b), b.whiteToMove, slot);
+            note(p, hash, b.whiteToMove, slot);
     }
 
 private:
@@ -58,9 +51,20 @@ private:
         bool otherSide = false; // its pieces are stored with the other side to move
     };
 
-    [[gnu::noinline]] void insertWithRoom(const BitPosition<N> &p, bool whiteToMove, int ply,
-                                          int value, int alpha0, int beta) {
-        const Entry entry = lookUp(p, whiteToMove, p.hash());
+    [[gnu::noinline]] const board *findStored(const BitPosition<N> &p, std::uint32_t hash,
+                                              bool whiteToMove) const {
+        const Entry entry = lookUp(p, hash, whiteToMove);
+        if (!entry.otherSide)
+            return entry.slot < 0 ? nullptr : &table_.Tboards[entry.slot];
+        unsigned int slot = 0;
+        return follow(p, whiteToMove, false, slot) && !table_.Tempty[slot] ? &table_.Tboards[slot]
+                                                                           : nullptr;
+    }
+
+    [[gnu::noinline]] void insertWithRoom(const BitPosition<N> &p, std::uint32_t hash,
+                                          bool whiteToMove, int ply, int value, int alpha0,
+                                          int beta) {
+        const Entry entry = lookUp(p, hash, whiteToMove);
         if (entry.slot >= 0 && !entry.otherSide)
             return;
         unsigned int slot = 0;
@@ -74,7 +78,7 @@ private:
         scratch_.hashAlpha = alpha0;
         scratch_.hashBeta = beta;
         table_.place(slot, &scratch_);
-        note(p, whiteToMove, slot);
+        note(p, hash, whiteToMove, slot);
     }
 
     static std::size_t indexSizeFor(int entries) {
@@ -86,19 +90,18 @@ private:
         return static_cast<int>(2 * (slot + 1)) + (whiteToMove ? 1 : 0);
     }
 
-    void note(const BitPosition<N> &p, bool whiteToMove, unsigned int slot) {
+    void note(const BitPosition<N> &p, std::uint32_t hash, bool whiteToMove, unsigned int slot) {
         pieces_[slot] = p;
-        const std::size_t h = p.hash();
-        stored_[filterWord(h)] |= filterBit(h);
-        std::size_t i = home(h);
+        stored_[filterWord(hash)] |= filterBit(hash);
+        std::size_t i = home(hash);
         while (index_[i] != 0)
             i = next(i);
         index_[i] = indexValue(slot, whiteToMove);
     }
 
-    Entry lookUp(const BitPosition<N> &p, bool whiteToMove, std::size_t h) const {
+    Entry lookUp(const BitPosition<N> &p, std::uint32_t hash, bool whiteToMove) const {
         Entry entry;
-        for (std::size_t i = home(h); index_[i] != 0; i = next(i)) {
+        for (std::size_t i = home(hash); index_[i] != 0; i = next(i)) {
             const int slot = index_[i] / 2 - 1;
             if (!(pieces_[static_cast<unsigned>(slot)] == p))
                 continue;
@@ -112,17 +115,20 @@ private:
 
     // Most positions asked for are not stored. A set of bits, eight for every place of the index,
     // tells so of most of them.
-    bool mayBeStored(std::size_t h) const { return (stored_[filterWord(h)] & filterBit(h)) != 0; }
-    std::size_t filterWord(std::size_t h) const { return h >> 6 & storedMask_; }
-    static std::uint64_t filterBit(std::size_t h) { return std::uint64_t{1} << (h & 63); }
+    bool mayBeStored(std::uint32_t hash) const {
+        return (stored_[filterWord(hash)] & filterBit(hash)) != 0;
+    }
+    std::size_t filterWord(std::uint32_t hash) const { return hash >> 6 & storedMask_; }
+    static std::uint64_t filterBit(std::uint32_t hash) { return std::uint64_t{1} << (hash & 63); }
 
-    std::size_t home(std::size_t h) const { return h & (index_.size() - 1); }
+    std::size_t home(std::uint32_t hash) const { return hash & (index_.size() - 1); }
     std::size_t next(std::size_t i) const { return (i + 1) & (index_.size() - 1); }
 
     // Follows the table's probe path to the first slot that is free or, unless the position `isNew`
     // to the table, holds its pieces. False when there is none within the limit.
     bool follow(const BitPosition<N> &p, bool whiteToMove, bool isNew, unsigned int &slot) const {
-        const unsigned int first = p.key(whiteToMove) % static_cast<unsigned int>(table_.size);
+        const unsigned int first =
+            BitKey<N>::of(p, whiteToMove) % static_cast<unsigned int>(table_.size);
         return table_.probe(
             first, [&](unsigned int at) { return !isNew && pieces_[at] == p; }, slot);
     }

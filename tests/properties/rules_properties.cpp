@@ -1,6 +1,7 @@
 // What the bit sets say of a position is what the engine says: moves, keys, analysis, evaluation.
 
 #include "bits/bitanalysis.h"
+#include "bits/bitkey.h"
 #include "bits/bitmaterial.h"
 #include "bits/bitmovegenerator.h"
 #include "bits/dispatch.h"
@@ -69,7 +70,7 @@ std::string saidByBits(EngineRig &rig) {
         board written(N);
         written.whiteToMove = whiteToMove;
         p.writeTo(written);
-        text += boardText(written, p.key(whiteToMove));
+        text += boardText(written, BitKey<N>::of(p, whiteToMove));
     };
     const auto tellMoves = [&](const MoveStack<BitMove<N>> &moves, std::size_t count) {
         text += std::to_string(count) + " moves\n";

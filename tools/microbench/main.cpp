@@ -130,7 +130,7 @@ BENCHMARK(materialOverEngine);
 void keyOverBits(benchmark::State &state) {
     const Position p(positionOf(Kind::Quiet));
     while (state.KeepRunning())
-        benchmark::DoNotOptimize(p.key(true));
+        benchmark::DoNotOptimize(BitKey<size>::of(p, true));
 }
 BENCHMARK(keyOverBits);
 
@@ -188,14 +188,17 @@ void hashFindOverBits(benchmark::State &state) {
     const std::vector<board> boards = manyPositions(5000);
     hashTable table(hashSlots);
     BitTable<size> bitTable(table);
+    const BitMaterial<size, true> material(SquaresValue(size, false), false);
     std::vector<Position> positions;
+    std::vector<std::uint32_t> hashes;
     for (const board &b : boards) {
         positions.emplace_back(b);
-        bitTable.insert(positions.back(), true, 0, 0, 0, 1);
+        hashes.push_back(material.tallies().of(positions.back()).hash());
+        bitTable.insert(positions.back(), hashes.back(), true, 0, 0, 0, 1);
     }
     std::size_t next = 0;
     while (state.KeepRunning()) {
-        benchmark::DoNotOptimize(bitTable.find(positions[next], true));
+        benchmark::DoNotOptimize(bitTable.find(positions[next], hashes[next], true));
         next = (next + 1) % positions.size();
     }
 }
