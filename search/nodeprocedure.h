@@ -70,7 +70,7 @@ template <SearchNode Node>
 class NodeProcedure {
 public:
     // Values the node from its side's point of view. Window: see AbstractEngine::getBestMove. Most
-    // nodes end here; that part is compiled into the loop over the parent's moves.
+    // nodes end here: what searches moves is a function of its own, out of their way.
     [[gnu::always_inline]] static Score run(Node &node, int alpha, int beta) {
         node.endLine();
         if (AbstractEngine::breakThinking && node.level() > 0)
