@@ -56,10 +56,6 @@ QAccessibleInterface *newAccessible(const QString &, QObject *object) {
 Chooser::Chooser(const QString &label, QWidget *parent) : QComboBox(parent) {
     QAccessible::installFactory(newAccessible); // before anything asks for it
     setAccessibleName(label);
-    connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
-        QAccessibleValueChangeEvent event(this, index);
-        QAccessible::updateAccessibility(&event);
-    });
 }
 
 void Chooser::pick(int index) {

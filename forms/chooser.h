@@ -5,9 +5,9 @@
 #include <QComboBox>
 
 // Readers that find a label's relation to a combo box say the label and leave out the choice, and
-// are not told of another choice in a way that they speak. This one has both in its name, takes and
-// tells the index as its value, and goes on by one or back by one as an action. A choice made so is
-// the player's: it is activated.
+// do not speak of another choice without a value. This one has both in its name, takes and tells
+// the index as its value, of whose changes the toolkit tells, and goes on by one or back by one as
+// an action. A choice made so is the player's: it is activated.
 class Chooser : public QComboBox {
     Q_OBJECT
 
