@@ -34,9 +34,7 @@ BoardTable *BoardTable::of(MyCanvasView *view) {
 }
 
 BoardTable::BoardTable(MyCanvasView *view)
-    : QAccessibleWidget(view, QAccessible::Table),
-      size_(view->shownMetrics() != nullptr ? view->shownMetrics()->size : 0),
-      cells_(childCount()) {}
+    : QAccessibleWidget(view, QAccessible::Table), cells_(maxBoardSize * maxBoardSize / 2) {}
 
 BoardTable::~BoardTable() {
     for (const Cell &cell : cells_) {
@@ -47,6 +45,11 @@ BoardTable::~BoardTable() {
 
 MyCanvasView *BoardTable::view() const {
     return static_cast<MyCanvasView *>(object());
+}
+
+int BoardTable::rowCount() const {
+    const bool hasBoard = isValid() && view()->shownMetrics() != nullptr;
+    return hasBoard ? view()->shownMetrics()->size : 0;
 }
 
 void BoardTable::tellChanges() {

@@ -36,7 +36,7 @@ public:
     XY squareOf(int index) const;
     bool hasFocus(int index) const;
 
-    int childCount() const override { return size_ * columnCount(); }
+    int childCount() const override { return rowCount() * columnCount(); }
     QAccessibleInterface *child(int index) const override;
     int indexOfChild(const QAccessibleInterface *child) const override;
     QAccessibleInterface *focusChild() const override;
@@ -44,8 +44,8 @@ public:
     void *interface_cast(QAccessible::InterfaceType type) override;
 
     QAccessibleInterface *cellAt(int row, int column) const override;
-    int rowCount() const override { return size_; }
-    int columnCount() const override { return size_ / 2; }
+    int rowCount() const override;
+    int columnCount() const override { return rowCount() / 2; }
     QString rowDescription(int) const override { return {}; }
     QString columnDescription(int) const override { return {}; }
     QAccessibleInterface *caption() const override { return nullptr; }
@@ -73,8 +73,7 @@ private:
         QAccessible::Id id = 0; // 0: nobody has asked for it yet
         SquareReport told;      // when it was asked for, or told of
     };
-    int size_; // squares a side of the board, which does not change under its view
-    mutable std::vector<Cell> cells_;
+    mutable std::vector<Cell> cells_; // as many as the largest board has
 };
 
 #endif
