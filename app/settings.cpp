@@ -63,7 +63,6 @@ void reportUnknown(const char *title, const char *text) {
 void Draughts::setRules(int index) {
     if (isBusy())
         return;
-    pEngine.reset();
     if (!isItem(ruleRows, index))
         reportUnknown("Draughts::setRules", "unknown rules, using international");
     const RuleSet rules = isItem(ruleRows, index) ? RuleSet{index} : defaultRules;
