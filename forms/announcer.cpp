@@ -70,6 +70,7 @@ void Announcer::announce(const QString &sentence) {
 }
 
 void Announcer::remind(const QString &sentence) {
+    later_.stop();
     if (!notes_.isEmpty() || sentence != sentence_)
         announce(sentence);
 }
