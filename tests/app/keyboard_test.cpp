@@ -52,13 +52,22 @@ TEST_F(GameTest, WhileTheComputerThinksKeysAreRefusedAsButtonsAre) {
     place(startOfTen, computers);
 }
 
+TEST_F(GameTest, EscapeGivesUpTheMoveThatIsBegun) {
+    tap(1, 3);
+    EXPECT_EQ(marked(MarkNext), "(0,4) (2,4)");
+    keys(game, {Qt::Key_Escape});
+    EXPECT_EQ(marked(MarkNext), "");
+    tap(0, 4);
+    EXPECT_EQ(game.phase(), Draughts::Phase::Waiting);
+}
+
 // The window brings the focus to the board, but not by key.
 TEST_F(GameTest, TheCursorIsSeenByThoseWhoUseKeysOnly) {
     const QImage untouched = game.grab().toImage();
     QTest::keyClicks(game.pView, "b6");
     EXPECT_EQ(squareColour(1, 5), Qt::yellow);
-    tap(1, 5);
+    tap(2, 4); // takes the cursor along
     EXPECT_EQ(game.grab().toImage(), untouched);
     keys(game, {Qt::Key_Tab, Qt::Key_Backtab});
-    EXPECT_EQ(squareColour(1, 5), Qt::yellow);
+    EXPECT_EQ(squareColour(2, 4), Qt::yellow);
 }
