@@ -10,6 +10,7 @@
 #include "search/thinkstatistic.h"
 
 #include <cstdlib>
+#include <vector>
 
 namespace {
 
@@ -31,31 +32,39 @@ void announceFavourite() {
 
 } // namespace
 
-// The root list after an iteration, and which of its moves was chosen. Engines and boards under the
-// moves stay shared with the live list, which later iterations only reorder.
+// The root list as an iteration left it: later iterations change the order and the scores of its
+// moves, which stay where they are in memory.
 class AbstractEngine::SavedRoot {
 public:
-    void save(const QValueList<LegalMove> &list, const LegalMove *chosen) {
-        list_ = list;
-        index_ = -1;
-        int i = 0;
-        for (const LegalMove &m : list) {
-            if (&m == chosen)
-                index_ = i;
-            ++i;
-        }
+    void save(QValueList<LegalMove> &list, LegalMove *chosen) {
+        chosen_ = chosen;
+        entries_.clear();
+        for (auto move = list.begin(); move != list.end(); ++move)
+            entries_.push_back({move, move->score, move->reduction});
     }
-    void forget() { index_ = -1; }
-    bool isEmpty() const { return index_ < 0; }
-    // Brings the list back; the chosen move in it.
-    LegalMove *restore(QValueList<LegalMove> &list) {
-        list.swap(list_);
-        return &list[index_];
+    void forget() { chosen_ = nullptr; }
+    bool isEmpty() const { return chosen_ == nullptr; }
+    // Brings order and scores back. Returns the chosen move.
+    LegalMove *restore(QValueList<LegalMove> &list) const {
+        QValueList<LegalMove> restored;
+        for (const Entry &entry : entries_) {
+            entry.move->score = entry.score;
+            entry.move->reduction = entry.reduction;
+            restored.take(list, entry.move);
+        }
+        list.swap(restored);
+        return chosen_;
     }
 
 private:
-    QValueList<LegalMove> list_;
-    int index_ = -1;
+    struct Entry {
+        QValueList<LegalMove>::iterator move;
+        int score;
+        int reduction;
+    };
+
+    std::vector<Entry> entries_;
+    LegalMove *chosen_ = nullptr;
 };
 
 LegalMove *AbstractEngine::getBestMove(Score &score, BestLine &line) {

@@ -5,6 +5,8 @@
 #include "search/movesort.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
 
 namespace {
 
@@ -53,12 +55,13 @@ void AbstractEngine::updatePoints(Score &s) const {
 bool AbstractEngine::FavouriteMove(const QValueList<LegalMove> *list) const {
     if (depth < (isGambit ? favouriteDepthGambit : favouriteDepth) || list->count() < 2)
         return false;
-    QValueList<LegalMove> sorted = *list;
-    sortByScore(sorted);
-    auto second = sorted.end();
-    --second;
-    --second;
-    const int lead = sorted.last().score - second->score;
+    int best = list->first().score;
+    int second = std::numeric_limits<int>::min();
+    for (auto m = std::next(list->begin()); m != list->end(); ++m) {
+        second = std::max(second, std::min(best, m->score));
+        best = std::max(best, m->score);
+    }
+    const int lead = best - second;
     return lead > (isGambit ? favouriteMarginGambit : favouriteMargin);
 }
 
