@@ -53,6 +53,8 @@ public:
         return static_cast<int>(Base::remove_if(unwanted));
     }
     void swap(QValueList &other) noexcept { Base::swap(other); }
+    // Moves all elements of `other` to this list's end.
+    void takeAll(QValueList &other) { Base::splice(end(), other); }
     // Moves the element at `place` of `other` to this list's end; its address stays.
     void take(QValueList &other, ConstIterator place) { Base::splice(end(), other, place); }
 };

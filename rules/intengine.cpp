@@ -18,8 +18,7 @@ bool canBeTaken(const board &b, const XY &square) {
 
 bool IntEngine::FillMoveList() {
     const CaptureLimitScope report;
-    releaseTree();
-    moveList.clear();
+    releaseMoves();
     FillCaptureMoves();
     if (!moveList.isEmpty())
         return false;

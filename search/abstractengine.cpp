@@ -16,21 +16,6 @@ constinit const XY AbstractEngine::jmpEnd[4] = {{2, 2}, {2, -2}, {-2, -2}, {-2, 
 AbstractEngine::AbstractEngine(::board *b, int budget, thinkStatistic *stat, int squares)
     : depth(budget), board(b), size(squares), statistic(stat) {}
 
-AbstractEngine::~AbstractEngine() {
-    releaseTree();
-    board = nullptr;
-}
-
-void AbstractEngine::releaseTree() {
-    for (auto it = moveList.end(); it != moveList.begin();) {
-        --it;
-        delete it->subEngine;
-        it->subEngine = nullptr;
-        delete it->subBoard;
-        it->subBoard = nullptr;
-    }
-}
-
 bool AbstractEngine::listMoves(ListingWatch &watch) {
     watch_ = &watch;
     const bool noMoves = FillMoveList();

@@ -7,6 +7,8 @@
 #include "rules/legalmove.h"
 #include "search/score.h"
 
+#include <vector>
+
 class BestLine;
 class ListingWatch;
 class QTextStream;
@@ -121,6 +123,16 @@ public:
     // Writes every position down to `depth` levels (here the plain number), without pruning.
     void genFullTree(QTextStream &ts, int level);
 
+    // The list has more moves than come up in games: captures that branch. What the search keeps of
+    // the positions after so many moves is at rest; and such a list is let go of bit by bit.
+    bool isCrowded() const { return moveList.count() > crowd; }
+    // Packs the move list and the tree below it into few bytes; the list is empty then.
+    void rest();
+    // Brings the list back as it was, if it is at rest. The engines below it stay so.
+    void wake();
+    // Frees a bit of the lists that have been let go of.
+    void freeDiscarded();
+
     // Forgets all moves' scores: a fresh list is searched in reverse order of generation.
     void randMoveList();
     // Makes the move list the engine's own before an iteration changes it. Lists share nothing with
@@ -136,8 +148,9 @@ public:
     static bool outsideRange(int v, const Score &alpha, const Score &beta);
 
 protected:
-    // Releases the engines and boards that the moves of the list own.
-    void releaseTree();
+    // Empties the move list and releases the engines and boards that its moves own; those of a
+    // crowded list bit by bit, in later calls of this and of freeDiscarded().
+    void releaseMoves();
     // To be asked at every jump but the first of a sequence of captures: true when the listing is
     // to end there, with what it has, because the search that wanted it is broken off.
     bool countJump();
@@ -146,13 +159,18 @@ protected:
     int staticValue(int balance);
 
 private:
+    static constexpr int crowd = 500;
+
     class SavedRoot;
 
     bool startDriver(Score &score);
     bool runIteration(Score &score, LegalMove *&best, BestLine &line);
     bool atLevelLimit() const;
     LegalMove *finishDriver(SavedRoot &saved, const LegalMove *last);
+    void packInto(std::vector<unsigned char> &bytes) const;
 
+    std::vector<unsigned char> atRest_; // the list, packed; empty unless it is at rest
+    QValueList<LegalMove> discarded_;
     ListingWatch *watch_ = nullptr; // over the running listing, if any; not owned
 };
 

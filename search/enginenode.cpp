@@ -19,6 +19,13 @@ NodeOutcome run(Node &&node, int alpha, int beta) {
     return outcome;
 }
 
+void dropChild(LegalMove &m) {
+    delete m.subEngine;
+    m.subEngine = nullptr;
+    delete m.subBoard;
+    m.subBoard = nullptr;
+}
+
 } // namespace
 
 NodeOutcome searchNode(AbstractEngine &engine, SearchContext &context, int level, int alpha,
@@ -31,6 +38,7 @@ NodeOutcome searchNode(AbstractEngine &engine, SearchContext &context, int level
 // A list that was searched before is ordered by the scores of that time.
 bool MoveListNode::listMoves() {
     QValueList<LegalMove> &list = engine_.moveList;
+    engine_.wake();
     if (list.isEmpty()) {
         engine_.listMoves(context_.listingWatch());
         engine_.randMoveList();
@@ -83,47 +91,47 @@ int MoveListNode::reducedBudget(const LegalMove &m) const {
     return childBudget_ - std::max(m.reduction, 0);
 }
 
-// A clone is made with the budget that the move's reduction has not been taken from yet. A search
-// that is broken off only asks the table for what it has not searched yet: on the way out of a long
-// listing it makes boards for that, but no engines.
 int EngineNode::enter(int i) {
-    LegalMove &m = *move(i);
-    if (m.subBoard == nullptr) {
-        m.subBoard = new board(engine_.board);
-        engine_.makeMove(m.subBoard, &m);
+    move_ = move(i);
+    if (move_->subBoard == nullptr) {
+        move_->subBoard = new board(engine_.board);
+        engine_.makeMove(move_->subBoard, move_);
     }
-    if (m.subEngine == nullptr && !AbstractEngine::breakThinking)
-        m.subEngine = engine_.selfClone(m.subBoard, childBudget_, engine_.statistic, engine_.size);
-    if (m.subEngine != nullptr)
-        m.subEngine->depth = reducedBudget(m);
-    child_ = m.subBoard;
-    childEngine_ = m.subEngine;
-    return m.score;
+    return move_->score;
 }
 
 bool EngineNode::probe(int beta, int alpha, Score &value) {
-    if (!engine_.canUseHT(child_, beta, alpha))
+    board *child = move_->subBoard;
+    if (!engine_.canUseHT(child, beta, alpha))
         return false;
-    value.set(child_->hashScore, child_->hashHorizon);
+    value.set(child->hashScore, child->hashHorizon);
     return true;
 }
 
+// A clone is made with the budget that the move's reduction has not been taken from yet. None is
+// made on the way out of a search that is broken off.
 Score EngineNode::search(int alpha, int beta) {
-    if (childEngine_ != nullptr)
-        return searchNode(*childEngine_, context_, level_ + 1, alpha, beta, childLine_).value;
-    childLine_.setTop(level_ + 1);
-    return Score::brokenOff();
+    AbstractEngine *&child = move_->subEngine;
+    if (child == nullptr && AbstractEngine::breakThinking) {
+        childLine_.setTop(level_ + 1);
+        return Score::brokenOff();
+    }
+    if (child == nullptr)
+        child = engine_.selfClone(move_->subBoard, childBudget_, engine_.statistic, engine_.size);
+    child->depth = reducedBudget(*move_);
+    return searchNode(*child, context_, level_ + 1, alpha, beta, childLine_).value;
 }
 
+// Among thousands of moves, what has not been searched is dropped and what has been is packed.
 void EngineNode::leave(int i, int score) {
     LegalMove &m = *move(i);
     m.score = score;
-    if (level_ <= lastCachedLevel)
-        return;
-    delete m.subEngine;
-    m.subEngine = nullptr;
-    delete m.subBoard;
-    m.subBoard = nullptr;
+    if (level_ > lastCachedLevel || (engine_.isCrowded() && m.subEngine == nullptr))
+        dropChild(m);
+    else if (m.subEngine != nullptr && (engine_.isCrowded() || m.subEngine->isCrowded()))
+        m.subEngine->rest();
+    if (level_ == 0)
+        engine_.freeDiscarded();
 }
 
 HandoverNode::HandoverNode(AbstractEngine &engine, SearchContext &context, int level,

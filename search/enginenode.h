@@ -65,7 +65,8 @@ private:
 };
 
 // A node whose children are engines. They hang on the engine's moves and, up to level 2, stay there
-// from one iteration to the next; from level 3 on they are dropped after the visit.
+// from one iteration to the next, at rest where there are thousands; from level 3 on they are
+// dropped after the visit.
 class EngineNode : public MoveListNode {
 public:
     // Children of nodes up to this level are kept.
@@ -79,8 +80,7 @@ public:
     void leave(int i, int score);
 
 private:
-    board *child_ = nullptr; // of the move entered
-    AbstractEngine *childEngine_ = nullptr;
+    LegalMove *move_ = nullptr; // the one entered
 };
 
 // A node at level 3 whose children are left to the deep search.

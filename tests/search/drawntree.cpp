@@ -48,8 +48,7 @@ public:
     }
 
     bool FillMoveList() override {
-        releaseTree();
-        moveList.clear();
+        releaseMoves();
         tree_.listed += ' ' + name_;
         const int ply = board->plyCount - tree_.rootPly;
         for (int i = 0; i < replyCount(); ++i) {

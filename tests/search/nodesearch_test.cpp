@@ -95,6 +95,37 @@ TEST(Iterations, ThreeLevelsAreKept) {
     EXPECT_EQ(tree.listed, " aaaa aaaaa");
 }
 
+// As where captures come by the thousand.
+TEST(Iterations, ATreeAtRestIsSearchedOnAsItWas) {
+    constexpr const char *drawing = "(((x7 5) (2 9 4)) ((3 1) (6 8)))";
+    DrawnTree awake(drawing), rested(drawing);
+    awake.searchNode(3);
+    rested.searchNode(3);
+    rested.move('a').subEngine->rest();
+    EXPECT_TRUE(rested.move('a').subEngine->moveList.isEmpty());
+    EXPECT_EQ(rested.searchNode(4), awake.searchNode(4));
+    EXPECT_EQ(rested.listed, awake.listed);
+    EXPECT_EQ(rested.score.value, awake.score.value);
+}
+
+TEST(Iterations, ACrowdedTreeIsFreedBitByBit) {
+    static int alive = 0;
+    struct Counted : IntEngine {
+        Counted() : IntEngine(nullptr, 0, nullptr, 8) { ++alive; }
+        ~Counted() override { --alive; }
+    };
+    EngineRig rig(RuleSet::International, board(8));
+    while (alive < 2000)
+        rig.engine->moveList.append(LegalMove())->subEngine = new Counted;
+    rig.engine->FillMoveList();
+    EXPECT_EQ(alive, 2000);
+    rig.engine->freeDiscarded();
+    EXPECT_LT(alive, 2000);
+    EXPECT_GT(alive, 0);
+    rig.engine.reset();
+    EXPECT_EQ(alive, 0);
+}
+
 // 300 points behind cost half a ply, a value not known as much. Engines are made with the full
 // budget and then get the reduced one.
 TEST(Iterations, WorseMovesAreSearchedLessDeep) {
