@@ -74,11 +74,11 @@ Działają też opcje biblioteki Qt, takie jak -style i -platform.</translation>
     </message>
     <message>
         <source>being taken</source>
-        <translation>bita</translation>
+        <translation>do zbicia</translation>
     </message>
     <message>
         <source>chosen</source>
-        <translation>wybrana</translation>
+        <translation>wybrano</translation>
     </message>
     <message>
         <source>offered</source>
