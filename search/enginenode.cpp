@@ -97,7 +97,18 @@ int EngineNode::enter(int i) {
         move_->subBoard = new board(engine_.board);
         engine_.makeMove(move_->subBoard, move_);
     }
+    if (!engine_.isCrowded() && !AbstractEngine::breakThinking)
+        cloneEngine();
+    if (move_->subEngine != nullptr)
+        move_->subEngine->depth = reducedBudget(*move_);
     return move_->score;
+}
+
+// With the budget that the move's reduction has not been taken from yet.
+void EngineNode::cloneEngine() {
+    if (move_->subEngine == nullptr)
+        move_->subEngine =
+            engine_.selfClone(move_->subBoard, childBudget_, engine_.statistic, engine_.size);
 }
 
 bool EngineNode::probe(int beta, int alpha, Score &value) {
@@ -108,18 +119,16 @@ bool EngineNode::probe(int beta, int alpha, Score &value) {
     return true;
 }
 
-// A clone is made with the budget that the move's reduction has not been taken from yet. None is
-// made on the way out of a search that is broken off.
+// Among thousands of moves only those that are searched get an engine, and none does on the way out
+// of a search that is broken off.
 Score EngineNode::search(int alpha, int beta) {
-    AbstractEngine *&child = move_->subEngine;
-    if (child == nullptr && AbstractEngine::breakThinking) {
+    if (move_->subEngine == nullptr && AbstractEngine::breakThinking) {
         childLine_.setTop(level_ + 1);
         return Score::brokenOff();
     }
-    if (child == nullptr)
-        child = engine_.selfClone(move_->subBoard, childBudget_, engine_.statistic, engine_.size);
-    child->depth = reducedBudget(*move_);
-    return searchNode(*child, context_, level_ + 1, alpha, beta, childLine_).value;
+    cloneEngine();
+    move_->subEngine->depth = reducedBudget(*move_);
+    return searchNode(*move_->subEngine, context_, level_ + 1, alpha, beta, childLine_).value;
 }
 
 // Among thousands of moves, what has not been searched is dropped and what has been is packed.

@@ -80,6 +80,8 @@ public:
     void leave(int i, int score);
 
 private:
+    void cloneEngine();
+
     LegalMove *move_ = nullptr; // the one entered
 };
 
