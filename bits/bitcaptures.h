@@ -84,13 +84,16 @@ private:
     }
 
     // A flying king may land on any free square behind the piece it jumps; squares from which it
-    // can go on exclude the others. `back` is the direction of the piece it has just jumped.
+    // can go on exclude the others. From most squares nothing is left to jump on any diagonal,
+    // which one look tells. `back` is the direction of the piece it has just jumped.
     bool flyingSequences(int at, Bits taken, int level, int back) {
         if (level > 1 && watch_.countJump())
             return true;
+        const Bits victims = enemy_ & ~taken & Squares::cross[static_cast<unsigned>(at)];
+        if (victims == 0)
+            return false;
         bool found = false;
-        const Bits blockers = Squares::all & ~landing_;
-        const Bits victims = enemy_ & ~taken;
+        const Bits blockers = ~landing_;
         forEachDirection([&](auto d) {
             if (d == back)
                 return;

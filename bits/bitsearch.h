@@ -191,7 +191,8 @@ private:
     }
     AnalysisResult analyse() const {
         const Analysis analysis(position_, White);
-        const int freedom = AbstractEngine::freedomValue * analysis.freedom();
+        const int freedom =
+            Analysis::fewPieces(position_) ? AbstractEngine::freedomValue * analysis.freedom() : 0;
         return {freedom +
                     Material::passages(analysis.whitePassageMen(), analysis.blackPassageMen()),
                 analysis.canPass()};

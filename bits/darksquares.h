@@ -218,6 +218,14 @@ struct DarkSquares {
         return table;
     }();
 
+    // The squares off the edge that are in some direction from each square.
+    static constexpr std::array<Bits, bitCount> cross = [] {
+        std::array<Bits, bitCount> table{};
+        for (unsigned i = 0; i < bitCount; ++i)
+            table[i] = (rays<0>[i] | rays<1>[i] | rays<2>[i] | rays<3>[i]) & inside;
+        return table;
+    }();
+
     // The place of each square in the board's table of 12 x 12.
     static constexpr std::array<std::uint8_t, bitCount> sequence = [] {
         std::array<std::uint8_t, bitCount> table{};
