@@ -167,6 +167,7 @@ private:
     bool runIteration(Score &score, LegalMove *&best, BestLine &line);
     bool atLevelLimit() const;
     LegalMove *finishDriver(SavedRoot &saved, const LegalMove *last);
+    std::size_t packedSize() const;
     void packInto(std::vector<unsigned char> &bytes) const;
 
     std::vector<unsigned char> atRest_; // the list, packed; empty unless it is at rest

@@ -74,9 +74,20 @@ void AbstractEngine::rest() {
     if (moveList.isEmpty())
         return;
     Bytes bytes;
+    bytes.reserve(packedSize()); // copying and growing would take longer than all the rest
     packInto(bytes);
     release(moveList, moveList.count());
-    atRest_ = Bytes(bytes); // of just that size
+    atRest_.swap(bytes);
+}
+
+// What packInto() will add.
+std::size_t AbstractEngine::packedSize() const {
+    std::size_t bytes = atRest_.size();
+    for (const LegalMove &m : moveList) {
+        bytes += sizeof m.score + 1 + m.path.size() + 1 + m.taken.size() + sizeof(int);
+        bytes += m.subEngine != nullptr ? m.subEngine->packedSize() : 0;
+    }
+    return bytes;
 }
 
 // Move by move: score, squares, then the number of bytes that the list below takes and those.
