@@ -56,11 +56,9 @@ void Draughts::AfterDance() {
 
 void Draughts::updatePieceInfo(int x1, int y1, int x2, int y2) {
     unsigned char code = pBoard->squares[x1][y1];
-    if ((code & codeWhite) != 0 && y2 == pMetrics->size - 1)
+    if (code != 0 && y2 == promotionRow((code & codeWhite) != 0, pMetrics->size))
         code = crowned(code);
     pBoard->squares[x1][y1] = 0;
-    if ((code & codeBlack) != 0 && y2 == 0)
-        code = crowned(code);
     pBoard->squares[x2][y2] = code;
 
     DrCanvasPiece *piece = std::exchange(pieces[x1][y1], nullptr);

@@ -42,8 +42,8 @@ QString joined(const QList<XY> &squares, const char *last) {
 
 bool isCrowned(const board &position, const LegalMove &move) {
     const unsigned char code = position.Get(move.from());
-    const int promotionRow = (code & codeWhite) != 0 ? position.size - 1 : 0;
-    return (code & codeMan) != 0 && move.to().y == promotionRow;
+    return (code & codeMan) != 0 &&
+           move.to().y == promotionRow((code & codeWhite) != 0, position.size);
 }
 
 } // namespace

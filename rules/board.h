@@ -26,6 +26,11 @@ enum SquareCode : unsigned char {
     codePiece = 15
 };
 
+// Where a side's men are crowned, on a board of so many squares a side.
+constexpr int promotionRow(bool white, int size) {
+    return white ? size - 1 : 0;
+}
+
 // The code of a piece once it is crowned: a king, with its marks; a king stays one.
 constexpr unsigned char crowned(unsigned char code) {
     return static_cast<unsigned char>((code | codeKing) & ~codeMan);

@@ -54,7 +54,7 @@ bool IntEngine::aboutToPass() {
 void IntEngine::makeMove(::board *b, LegalMove *m) {
     unsigned char piece = b->Get(m->from());
     b->Get(m->from()) = 0;
-    if (m->to().y == (b->whiteToMove ? size - 1 : 0))
+    if (m->to().y == promotionRow(b->whiteToMove, size))
         piece = crowned(piece);
     b->Get(m->to()) = piece;
     for (const XY &square : m->taken)
