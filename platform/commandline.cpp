@@ -114,6 +114,8 @@ bool CommandLine::readScale(const QString &value) {
 } // namespace
 
 std::optional<int> obeyCommandLine(int argc, char **argv) {
+    if (argc <= 1)
+        return std::nullopt;
     WindowSize size = WindowSize::Suitable;
     double factor = 0;
     {
