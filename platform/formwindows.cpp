@@ -1,6 +1,7 @@
 #include "platform/formwindows.h"
 
 #include <QEvent>
+#include <QWidget>
 #include <QWindow>
 
 bool MaximisedSizes::eventFilter(QObject *watched, QEvent *event) {
@@ -13,7 +14,6 @@ bool MaximisedSizes::eventFilter(QObject *watched, QEvent *event) {
 
 // For good: back from there the window is too large for its limit for a moment.
 void MaximisedSizes::dropLimit(Qt::WindowState state) {
-    constexpr int any = (1 << 24) - 1; // the toolkit's own limit
     if (state == Qt::WindowMaximized)
-        static_cast<QWindow *>(sender())->setMaximumSize({any, any});
+        static_cast<QWindow *>(sender())->setMaximumSize({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
 }
