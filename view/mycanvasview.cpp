@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 // Seen on every colour that a square can have.
@@ -16,26 +18,16 @@ constexpr int framePixels = 2;
 constexpr int edgePixels = 1;
 
 std::optional<CursorStep> stepOf(int key) {
-    switch (key) {
-    case Qt::Key_Left:
-        return CursorStep::Left;
-    case Qt::Key_Right:
-        return CursorStep::Right;
-    case Qt::Key_Up:
-        return CursorStep::Up;
-    case Qt::Key_Down:
-        return CursorStep::Down;
-    case Qt::Key_Home:
-        return CursorStep::RowStart;
-    case Qt::Key_End:
-        return CursorStep::RowEnd;
-    case Qt::Key_PageUp:
-        return CursorStep::Top;
-    case Qt::Key_PageDown:
-        return CursorStep::Bottom;
-    default:
-        return std::nullopt;
+    constexpr std::pair<Qt::Key, CursorStep> steps[] = {
+        {Qt::Key_Left, CursorStep::Left},     {Qt::Key_Right, CursorStep::Right},
+        {Qt::Key_Up, CursorStep::Up},         {Qt::Key_Down, CursorStep::Down},
+        {Qt::Key_Home, CursorStep::RowStart}, {Qt::Key_End, CursorStep::RowEnd},
+        {Qt::Key_PageUp, CursorStep::Top},    {Qt::Key_PageDown, CursorStep::Bottom}};
+    for (const auto &[stepKey, step] : steps) {
+        if (key == stepKey)
+            return step;
     }
+    return std::nullopt;
 }
 
 // The focus comes back to where it was, with the window or after a list or menu.
