@@ -30,6 +30,7 @@ if(DRAUGHTS_FAST_LEVEL)
     target_include_directories(draughts_engine_fast PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(draughts_engine_fast PRIVATE Qt6::Core draughts_options)
     target_compile_options(draughts_engine_fast PRIVATE -march=${DRAUGHTS_FAST_LEVEL})
+    precompile_headers(draughts_engine_fast core)
     add_dependencies(draughts_engine draughts_engine_fast) # who runs with one runs with either
     engine_variant(draughts_engine_fast /glibc-hwcaps/${DRAUGHTS_FAST_LEVEL})
 endif()
