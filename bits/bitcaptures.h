@@ -40,7 +40,7 @@ private:
             if ((kings_ & start) == 0)
                 shortSequences<false>(start, 0, 1);
             else if constexpr (Rules.flyingKings)
-                flyingSequences(from_, 0, 1, nowhere);
+                flyingSequences(from_, enemy_, 1, nowhere);
             else
                 shortSequences<true>(start, 0, 1);
         }
@@ -83,15 +83,19 @@ private:
             complete(lowestBit(at), taken, level - 1);
     }
 
-    // A flying king may land on any free square behind the piece it jumps; squares from which it
-    // can go on exclude the others. From most squares nothing is left to jump on any diagonal,
-    // which one look tells. `back` is the direction of the piece it has just jumped.
-    bool flyingSequences(int at, Bits taken, int level, int back) {
+    // Whether the flying king on `at` can go on, jump number `level` coming next; lists how. From
+    // most squares nothing is left to jump on any diagonal, which one look tells. `prey` are
+    // the pieces not yet jumped, `back` is the direction of the last that was.
+    [[gnu::always_inline]] bool flyingSequences(int at, Bits prey, int level, int back) {
         if (level > 1 && watch_.countJump())
             return true;
-        const Bits victims = enemy_ & ~taken & Squares::cross[static_cast<unsigned>(at)];
-        if (victims == 0)
-            return false;
+        const Bits victims = prey & Squares::cross[static_cast<unsigned>(at)];
+        return victims != 0 && flyingJumps(at, prey, victims, level, back);
+    }
+
+    // A flying king may land on any free square behind the piece it jumps; squares from which it
+    // can go on exclude the others.
+    bool flyingJumps(int at, Bits prey, Bits victims, int level, int back) {
         bool found = false;
         const Bits blockers = ~landing_;
         forEachDirection([&](auto d) {
@@ -102,13 +106,14 @@ private:
             if (first == 0)
                 return;
             found = true;
+            const Bits left = prey & ~over;
             bool continued = false;
             for (Bits land = first; land != 0; land = Squares::template step<d>(land) & landing_)
                 continued |=
-                    flyingSequences(lowestBit(land), taken | over, level + 1, oppositeDirection(d));
+                    flyingSequences(lowestBit(land), left, level + 1, oppositeDirection(d));
             for (Bits land = continued ? 0 : first; land != 0;
                  land = Squares::template step<d>(land) & landing_)
-                complete(lowestBit(land), taken | over, level);
+                complete(lowestBit(land), enemy_ & ~left, level);
         });
         return found;
     }
