@@ -26,8 +26,11 @@ public:
     static bool fewPieces(const BitPosition<N> &p) {
         return countBits(p.white) < mostCounted || countBits(p.black) < mostCounted;
     }
-    // A cheap look that tells of most positions that no side can reach its promotion row.
-    static bool mayPass(const BitPosition<N> &p) { return mayPass<true>(p) || mayPass<false>(p); }
+    // A cheap look that tells of most positions that no side can reach its promotion row. Where
+    // there are kings some way is open nearly always, and the look would be for nothing.
+    static bool mayPass(const BitPosition<N> &p) {
+        return p.kings != 0 || mayPass<true>(p) || mayPass<false>(p);
+    }
 
     bool canPass() const { return canPass<true>(white_) || canPass<false>(black_); }
 
