@@ -12,11 +12,11 @@
 template <int N>
 class BitAnalysis {
     using Squares = DarkSquares<N>;
-    using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
 
 public:
     BitAnalysis(const BitPosition<N> &p, bool whiteToMove) : p_(p) {
-        const Bits empty = p.empty();
+        const Set empty = p.empty();
         white_.start(p.template men<true>(), empty & ~neighbourhood(p.black));
         black_.start(p.template men<false>(), empty & ~neighbourhood(p.white));
         flood(whiteToMove);
@@ -29,20 +29,20 @@ public:
     // A cheap look that tells of most positions that no side can reach its promotion row. Where
     // there are kings some way is open nearly always, and the look would be for nothing.
     static bool mayPass(const BitPosition<N> &p) {
-        return p.kings != 0 || mayPass<true>(p) || mayPass<false>(p);
+        return !isEmpty(p.kings) || mayPass<true>(p) || mayPass<false>(p);
     }
 
     bool canPass() const { return canPass<true>(white_) || canPass<false>(black_); }
 
     // White men with a free path to promotion; those on row 0 are not looked at.
-    Bits whitePassageMen() const {
-        constexpr Bits visited = Squares::rows(1, N - 2);
-        return passageMen<true>(white_) & visited;
+    Set whitePassageMen() const {
+        constexpr auto visited = Squares::rows(1, N - 2);
+        return passageMen<true>(white_) & asSet(visited);
     }
     // Black's; their visit ends one row before the mirror of white's.
-    Bits blackPassageMen() const {
-        constexpr Bits visited = Squares::rows(1, N - 3);
-        return passageMen<false>(black_) & visited;
+    Set blackPassageMen() const {
+        constexpr auto visited = Squares::rows(1, N - 3);
+        return passageMen<false>(black_) & asSet(visited);
     }
 
     // White's squares, held or reached, minus black's, each side counted up to four.
@@ -55,13 +55,13 @@ private:
     static constexpr int mostCounted = 4;
 
     struct Side {
-        Bits next;        // squares one step in front of those reached in the last step
-        Bits open;        // squares it may still claim: free, and not controlled by the other side
-        Bits reached = 0; // squares reached in all steps
-        Bits layers[N + 2]; // squares reached by step; layer 1: the men
-        int last = 1;       // the highest layer that holds a square
+        Set next;          // squares one step in front of those reached in the last step
+        Set open;          // squares it may still claim: free, and not controlled by the other side
+        Set reached{};     // squares reached in all steps
+        Set layers[N + 2]; // squares reached by step; layer 1: the men
+        int last = 1;      // the highest layer that holds a square
 
-        void start(Bits men, Bits claimable) {
+        void start(Set men, Set claimable) {
             layers[1] = men;
             open = claimable;
         }
@@ -69,26 +69,31 @@ private:
 
     template <bool White>
     static bool canPass(const Side &side) {
-        return (side.reached & Squares::template promotionRow<White>) != 0;
+        return !isEmpty(side.reached & promotionRow<White>());
+    }
+
+    template <bool White>
+    static Set promotionRow() {
+        return asSet(Squares::template promotionRow<White>);
     }
 
     // The squares that pieces on `set` control. Squares on the board's edge never are.
-    static Bits neighbourhood(Bits set) { return Squares::around(set) & Squares::inside; }
+    static Set neighbourhood(Set set) { return Squares::around(set) & asSet(Squares::inside); }
 
     // Whether a path of squares leads from some man of the side to its promotion row that it may
     // claim before the flood begins. A flood only ever reaches squares by such paths, since what a
     // step claims and controls only closes squares to the other side. Walks back from the row.
     template <bool White>
     static bool mayPass(const BitPosition<N> &p) {
-        const Bits empty = p.empty();
-        Bits ways = Squares::template promotionRow<White> & empty; // the edge is never controlled
-        if (ways == 0)
+        const Set empty = p.empty();
+        Set ways = promotionRow<White>() & empty; // the edge is never controlled
+        if (isEmpty(ways))
             return false;
-        const Bits men = p.template men<White>();
-        const Bits open = empty & ~neighbourhood(p.template side<!White>());
-        while (ways != 0) {
+        const Set men = p.template men<White>();
+        const Set open = empty & ~neighbourhood(p.template side<!White>());
+        while (!isEmpty(ways)) {
             ways = Squares::template forward<!White>(ways);
-            if ((ways & men) != 0)
+            if (!isEmpty(ways & men))
                 return true;
             ways &= open;
         }
@@ -99,15 +104,15 @@ private:
     // there, is closed to the other side.
     template <bool White>
     static bool advance(Side &side, Side &other, int step) {
-        const Bits front = side.next & side.open;
-        if (front == 0) {
-            side.next = 0;
+        const Set front = side.next & side.open;
+        if (isEmpty(front)) {
+            side.next = Set{};
             return false;
         }
         side.next = Squares::template forward<White>(front);
-        const Bits around = side.next | Squares::template forward<!White>(front);
+        const Set around = side.next | Squares::template forward<!White>(front);
         side.open &= ~front;
-        other.open &= ~(front | (around & Squares::inside));
+        other.open &= ~(front | (around & asSet(Squares::inside)));
         side.reached |= front;
         side.layers[step + 1] = front;
         side.last = step + 1;
@@ -132,13 +137,12 @@ private:
 
     // Walks back from the promotion row, one layer of the flood after the other.
     template <bool White>
-    static Bits passageMen(const Side &side) {
-        Bits passage = 0;
+    static Set passageMen(const Side &side) {
         if (!canPass<White>(side))
-            return passage;
+            return Set{};
+        Set passage{};
         for (int layer = side.last; layer > 1; --layer) {
-            const Bits ways =
-                Squares::template forward<!White>(passage) | Squares::template promotionRow<White>;
+            const Set ways = Squares::template forward<!White>(passage) | promotionRow<White>();
             passage = ways & side.layers[layer];
         }
         return Squares::template forward<!White>(passage) & side.layers[1];

@@ -28,8 +28,9 @@ public:
 
 private:
     BitCaptures(const BitPosition<N> &p, Stack &stack, ListingWatch &watch)
-        : kings_(p.template side<White>() & p.kings), enemy_(p.template side<!White>()),
-          empty_(p.empty()), stack_(stack), watch_(watch), first_(stack.size()) {}
+        : kings_(asBits(p.template side<White>() & p.kings)),
+          enemy_(asBits(p.template side<!White>())), empty_(asBits(p.empty())), stack_(stack),
+          watch_(watch), first_(stack.size()) {}
 
     // `jumpers` are the pieces whose first jump is a short one. Out of line for the same reason.
     [[gnu::noinline]] void listSequences(Bits jumpers) {

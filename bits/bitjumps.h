@@ -13,13 +13,15 @@ template <int N, const RuleTraits &Rules, bool White>
 class BitJumps {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
 
 public:
     explicit BitJumps(const BitPosition<N> &p)
         : enemy_(p.template side<!White>()), empty_(p.empty()), men_(p.template men<White>()),
-          kings_(Rules.flyingKings ? 0 : p.template side<White>() & p.kings) {
+          kings_(Rules.flyingKings ? Set{} : p.template side<White>() & p.kings) {
         forEachDirection([&](auto d) {
-            capturers_[d] = (jumps<false, d> ? men_ | kings_ : kings_) & places<d>();
+            const Set jumpers = jumps<false, d> ? men_ | kings_ : kings_;
+            capturers_[d] = asBits(jumpers & places<d>());
         });
     }
 
@@ -33,7 +35,9 @@ public:
 
     // Some piece can jump again after its first jump. What that has changed does not matter: back
     // over the jumped piece lies the start square, and onto that only a fourth jump leads.
-    bool canGoOn() const { return goesOn<false>(men_) || (kings_ != 0 && goesOn<true>(kings_)); }
+    bool canGoOn() const {
+        return goesOn<false>(men_) || (!isEmpty(kings_) && goesOn<true>(kings_));
+    }
 
     // Appends the captures of a position where none can go on.
     void list(MoveStack<BitMove<N>> &stack, ListingWatch &watch) const {
@@ -51,28 +55,28 @@ public:
 private:
     // Where a piece has something to jump in direction d.
     template <int d>
-    Bits places() const {
+    Set places() const {
         return Squares::template jumpFrom<d>(enemy_, empty_);
     }
 
     template <bool King>
-    bool goesOn(Bits pieces) const {
-        Bits landings = 0;
-        Bits goOn = 0;
+    bool goesOn(Set pieces) const {
+        Set landings{};
+        Set goOn{};
         forEachDirection([&](auto d) {
             if constexpr (jumps<King, d>) {
-                landings |=
-                    Squares::template step<d>(Squares::template step<d>(pieces & places<d>()));
+                const Set from = pieces & places<d>();
+                landings |= Squares::template step<d>(Squares::template step<d>(from));
                 goOn |= places<d>();
             }
         });
-        return (landings & goOn) != 0;
+        return !isEmpty(landings & goOn);
     }
 
-    const Bits enemy_;
-    const Bits empty_;
-    const Bits men_;
-    const Bits kings_;
+    const Set enemy_;
+    const Set empty_;
+    const Set men_;
+    const Set kings_;
     Bits capturers_[4];
 };
 

@@ -16,14 +16,14 @@ class BitKey {
 
 public:
     static unsigned int of(const BitPosition<N> &p, bool whiteToMove) {
-        constexpr auto last = Squares::square(N - 1, N - 1);
-        if (N < maxBoardSize || (p.occupied() & last) == 0)
+        constexpr int last = Squares::index(N - 1, N - 1);
+        if (N < maxBoardSize || !hasBit(p.occupied(), last))
             return mirrored(ringOf(p, whiteToMove));
         BitPosition<N> others = p;
-        others.white &= ~last;
-        others.black &= ~last;
+        others.white &= ~Squares::single(last);
+        others.black &= ~Squares::single(last);
         return withLastSquare(ringOf(others, whiteToMove),
-                              p.codeOf((p.black & last) != 0, (p.kings & last) != 0));
+                              p.codeOf(hasBit(p.black, last), hasBit(p.kings, last)));
     }
 
 private:
@@ -61,7 +61,7 @@ private:
         const auto addMan = [&ring](const Step &step) {
             ring = addInRing(ring ^ step.changed, step.added);
         };
-        if (p.kings == 0) {
+        if (isEmpty(p.kings)) {
             p.forEachPiece([&](unsigned i, bool isBlack, bool) { addMan(men[2 * i + isBlack]); });
         } else {
             p.forEachPiece([&](unsigned i, bool isBlack, bool isKing) {

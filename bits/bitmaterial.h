@@ -14,6 +14,7 @@ template <int N, bool FlyingKings>
 class BitMaterial {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
 
 public:
     BitMaterial(const SquaresValue &table, bool gambit)
@@ -26,31 +27,32 @@ public:
     const BitTallies<N> &tallies() const { return tallies_; }
     // White's points minus black's for the first kings.
     int firstKings(const BitPosition<N> &p) const {
-        if (p.kings == 0)
+        if (isEmpty(p.kings))
             return 0;
         const int more = kings_.first - kings_.further;
-        return ((p.white & p.kings) != 0 ? more : 0) - ((p.black & p.kings) != 0 ? more : 0);
+        return (isEmpty(p.white & p.kings) ? 0 : more) - (isEmpty(p.black & p.kings) ? 0 : more);
     }
     // Points for what a side's pieces protect each other. Of two neighbours each protects the
     // other; pieces on the edge have the points of both ways already.
-    static int protection(Bits pieces) {
-        const Bits s0 = Squares::template step<0>(pieces);
-        const Bits s1 = Squares::template step<1>(pieces);
-        const Bits bothWays = (s0 | Squares::template step<2>(pieces)) &
-                              (s1 | Squares::template step<3>(pieces)) & pieces & Squares::inside;
+    static int protection(Set pieces) {
+        const Set s0 = Squares::template step<0>(pieces);
+        const Set s1 = Squares::template step<1>(pieces);
+        const Set bothWays = (s0 | Squares::template step<2>(pieces)) &
+                             (s1 | Squares::template step<3>(pieces)) & pieces &
+                             asSet(Squares::inside);
         const int pairs = countBits(s0 & pieces) + countBits(s1 & pieces);
         return 2 * protectedSide * pairs + protectedBothWays * countBits(bothWays);
     }
     // White's points minus black's for the men on a free path to promotion; short-king rules give
     // nothing for those.
-    static int passages(Bits white, Bits black) {
+    static int passages(Set white, Set black) {
         return FlyingKings
                    ? passageStep(N) * (rowsAdvanced<true>(white) - rowsAdvanced<false>(black))
                    : 0;
     }
 
     // All of that for a position by itself.
-    int balance(const BitPosition<N> &p, Bits whitePassage, Bits blackPassage) const {
+    int balance(const BitPosition<N> &p, Set whitePassage, Set blackPassage) const {
         return tallies_.of(p).points() + firstKings(p) + protection(p.white) - protection(p.black) +
                passages(whitePassage, blackPassage);
     }
@@ -86,15 +88,15 @@ private:
 
     // The rows that the men have advanced together, counted digit by digit of the rows' numbers.
     template <bool White>
-    static int rowsAdvanced(Bits men) {
+    static int rowsAdvanced(Set men) {
         return rowDigit<White, 1>(men) + rowDigit<White, 2>(men) + rowDigit<White, 4>(men) +
                rowDigit<White, 8>(men);
     }
     template <bool White, int Digit>
-    static int rowDigit(Bits men) {
+    static int rowDigit(Set men) {
         constexpr Bits rows =
             Squares::select([](int, int y) { return ((White ? y : N - 1 - y) & Digit) != 0; });
-        return Digit * countBits(men & rows);
+        return Digit * countBits(men & asSet(rows));
     }
 
     const KingValues kings_;

@@ -10,6 +10,7 @@ template <int N, const RuleTraits &Rules, bool White>
 class BitMoveGenerator {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
     using Stack = MoveStack<BitMove<N>>;
     using Jumps = BitJumps<N, Rules, White>;
 
@@ -21,12 +22,12 @@ public:
 
     // Some own piece can capture. To be asked first.
     bool canCapture() {
-        Bits places = 0;
+        Set places{};
         forEachDirection([&](auto d) {
             if constexpr (Jumps::template jumps<false, d>)
                 places |= Squares::template jumpFrom<d>(enemy_, empty_);
         });
-        return (kings_ != 0 && surveyKings()) || (men_ & places) != 0;
+        return (!isEmpty(kings_) && surveyKings()) || !isEmpty(men_ & places);
     }
 
     // Number of non-capturing moves; to be asked after canCapture().
@@ -37,19 +38,18 @@ public:
     // Appends the non-capturing moves: by piece in square order; a man's left target first, a
     // king's directions in their order and outwards.
     void listQuiet(Stack &stack) const {
-        const Bits canLeft =
-            men_ & Squares::template step<oppositeDirection(leftward)>(left() & empty_);
-        const Bits canRight =
-            men_ & Squares::template step<oppositeDirection(rightward)>(right() & empty_);
+        const Bits canLeft = movers<leftward>(left());
+        const Bits canRight = movers<rightward>(right());
+        const Bits kings = asBits(kings_);
         // Each man's two moves are written and one or both kept, without a branch.
         BitMove<N> *end = stack.room(static_cast<unsigned>(countQuiet()) + 1);
-        for (Bits rest = canLeft | canRight | kings_; rest != 0;) {
+        for (Bits rest = canLeft | canRight | kings; rest != 0;) {
             const int from = takeLowest(rest);
             *end = quietMove(from, from + Squares::stride(leftward));
             end += hasBit(canLeft, from);
             *end = quietMove(from, from + Squares::stride(rightward));
             end += hasBit(canRight, from);
-            if (hasBit(kings_, from))
+            if (hasBit(kings, from))
                 forEachDirection([&](auto d) { end = listRay<d>(end, from); });
         }
         stack.extendTo(end);
@@ -66,16 +66,22 @@ private:
     static constexpr int rightward = White ? 0 : 1;
 
     // The squares to the left and right in front of the men.
-    Bits left() const { return Squares::template step<leftward>(men_); }
-    Bits right() const { return Squares::template step<rightward>(men_); }
+    Set left() const { return Squares::template step<leftward>(men_); }
+    Set right() const { return Squares::template step<rightward>(men_); }
+
+    // The men that can move in direction d, where they have these squares in front.
+    template <int d>
+    Bits movers(Set front) const {
+        return asBits(men_ & Squares::template step<oppositeDirection(d)>(front & empty_));
+    }
 
     // The free squares that the kings see in direction d. No two kings see the same one: the nearer
     // hides it from the farther.
     template <int d>
-    Bits kingView() const {
-        Bits front = Squares::template step<d>(kings_) & empty_;
-        Bits view = front;
-        while (Rules.flyingKings && front != 0) {
+    Set kingView() const {
+        Set front = Squares::template step<d>(kings_) & empty_;
+        Set view = front;
+        while (Rules.flyingKings && !isEmpty(front)) {
             front = Squares::template step<d>(front) & empty_;
             view |= front;
         }
@@ -84,15 +90,15 @@ private:
 
     // Counts the kings' non-capturing moves; true when some king can capture.
     bool surveyKings() {
-        Bits hit = 0;
+        Set hit{};
         forEachDirection([&](auto d) {
-            const Bits view = kingView<d>();
-            const Bits from = Rules.flyingKings ? kings_ | view : kings_;
+            const Set view = kingView<d>();
+            const Set from = Rules.flyingKings ? kings_ | view : kings_;
             hit |= from & Squares::template jumpFrom<d>(enemy_, empty_);
             kingMoves_ += countBits(view);
         });
-        kingCaptures_ = Rules.flyingKings && hit != 0;
-        return hit != 0;
+        kingCaptures_ = Rules.flyingKings && !isEmpty(hit);
+        return !isEmpty(hit);
     }
 
     static BitMove<N> quietMove(int from, int to) {
@@ -101,19 +107,20 @@ private:
 
     template <int d>
     BitMove<N> *listRay(BitMove<N> *end, int from) const {
-        Bits target = Squares::template step<d>(Squares::bit(from)) & empty_;
+        const Bits empty = asBits(empty_);
+        Bits target = Squares::template step<d>(Squares::bit(from)) & empty;
         while (target != 0) {
             *end++ = quietMove(from, lowestBit(target));
-            target = Rules.flyingKings ? Squares::template step<d>(target) & empty_ : 0;
+            target = Rules.flyingKings ? Squares::template step<d>(target) & empty : 0;
         }
         return end;
     }
 
     const BitPosition<N> &position_;
-    const Bits enemy_;
-    const Bits kings_;
-    const Bits men_;
-    const Bits empty_;
+    const Set enemy_;
+    const Set kings_;
+    const Set men_;
+    const Set empty_;
     int kingMoves_ = 0;
     bool kingCaptures_ = false; // some flying king
 };

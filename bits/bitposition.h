@@ -19,10 +19,11 @@ template <int N>
 struct BitPosition {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
 
-    Bits white = 0;
-    Bits black = 0;
-    Bits kings = 0; // of both colours
+    Set white{};
+    Set black{};
+    Set kings{}; // of both colours
 
     BitPosition() = default;
     // The pieces of `b`, a board for which representable() holds; marks are left out.
@@ -30,10 +31,10 @@ struct BitPosition {
         for (int x = 0; x < N; ++x) {
             for (int y = x % 2; y < N; y += 2) {
                 const unsigned char code = b.squares[x][y];
-                const Bits square = Squares::square(x, y);
-                white |= (code & codeWhite) != 0 ? square : 0;
-                black |= (code & codeBlack) != 0 ? square : 0;
-                kings |= (code & codeKing) != 0 ? square : 0;
+                const Set square = Squares::single(Squares::index(x, y));
+                white |= (code & codeWhite) != 0 ? square : Set{};
+                black |= (code & codeBlack) != 0 ? square : Set{};
+                kings |= (code & codeKing) != 0 ? square : Set{};
             }
         }
     }
@@ -84,29 +85,33 @@ struct BitPosition {
         return whiteMan + 4U * (isBlack ? 1 : 0) + (isKing ? 1 : 0);
     }
 
-    Bits occupied() const { return white | black; }
-    Bits empty() const { return Squares::all & ~occupied(); }
+    Set occupied() const { return white | black; }
+    Set empty() const { return asSet(Squares::all) & ~occupied(); }
     template <bool White>
-    Bits side() const {
+    Set side() const {
         return White ? white : black;
     }
     template <bool White>
-    Bits men() const {
+    Set men() const {
         return side<White>() & ~kings;
     }
 
-    bool operator==(const BitPosition &) const = default;
+    bool operator==(const BitPosition &other) const {
+        return isEmpty((white ^ other.white) | (black ^ other.black) | (kings ^ other.kings));
+    }
 
     // The position after a move of the side; crowned where the piece's way ends.
     template <bool White>
     BitPosition after(const BitMove<N> &m) const {
-        const Bits from = Squares::bit(m.from);
-        const Bits to = Squares::bit(m.to);
-        const Bits crowned = (kings & from) != 0 ? to : to & Squares::template promotionRow<White>;
+        const Set from = Squares::single(m.from);
+        const Set to = Squares::single(m.to);
+        const Set taken = asSet(m.taken);
+        const Set crowned =
+            hasBit(kings, m.from) ? to : to & asSet(Squares::template promotionRow<White>);
         BitPosition next;
-        next.white = White ? (white & ~from) | to : white & ~m.taken;
-        next.black = White ? black & ~m.taken : (black & ~from) | to;
-        next.kings = (kings & ~from & ~m.taken) | crowned;
+        next.white = White ? (white & ~from) | to : white & ~taken;
+        next.black = White ? black & ~taken : (black & ~from) | to;
+        next.kings = (kings & ~from & ~taken) | crowned;
         return next;
     }
 };

@@ -34,6 +34,7 @@ template <int N>
 class BitTallies {
     using Squares = DarkSquares<N>;
     using Bits = typename Squares::Bits;
+    using Set = typename Squares::Set;
 
 public:
     // `points(isBlack, isKing, square)`: what a piece is worth to its side.
@@ -69,7 +70,7 @@ public:
 
 private:
     template <bool White>
-    BitTally of(int square, Bits kings) const {
+    BitTally of(int square, Set kings) const {
         return pieces_[!White][2 * static_cast<unsigned>(square) + hasBit(kings, square)];
     }
 

@@ -2,11 +2,10 @@
 #ifndef BITS_DARKSQUARES_H
 #define BITS_DARKSQUARES_H
 
+#include "bits/setwords.h"
 #include "rules/xy.h"
 
 #include <array>
-#include <bit>
-#include <cstdint>
 #include <type_traits>
 
 // How squares map to bits
@@ -41,69 +40,11 @@
 //
 // A shifted set must be cut to `all`, or to a set of real squares such as the empty ones, before it
 // is counted or scanned. The sizes take 21, 36, 55 and 78 bits: three fit into a machine word, the
-// largest into two.
+// largest into two (see setwords.h).
 //
 // Whole-board questions are then a few instructions for all pieces at once: the targets of all
 // men's simple moves are `step(men, d) & empty`, the men that can jump in direction d are
 // `men & jumpFrom(enemies, empty, d)`.
-
-__extension__ typedef unsigned __int128 DoubleWord;
-
-// Bit operations on one and two machine words. Scans want a set that is not empty.
-constexpr int countBits(std::uint64_t set) {
-    return std::popcount(set);
-}
-constexpr int countBits(DoubleWord set) {
-    return std::popcount(static_cast<std::uint64_t>(set)) +
-           std::popcount(static_cast<std::uint64_t>(set >> 64));
-}
-constexpr int lowestBit(std::uint64_t set) {
-    return std::countr_zero(set);
-}
-constexpr int lowestBit(DoubleWord set) {
-    const auto low = static_cast<std::uint64_t>(set);
-    const auto high = static_cast<std::uint64_t>(set >> 64);
-    return low != 0 ? std::countr_zero(low) : 64 + std::countr_zero(high);
-}
-
-constexpr int highestBit(std::uint64_t set) {
-    return 63 - std::countl_zero(set);
-}
-constexpr int highestBit(DoubleWord set) {
-    const auto high = static_cast<std::uint64_t>(set >> 64);
-    return high != 0 ? 127 - std::countl_zero(high) : highestBit(static_cast<std::uint64_t>(set));
-}
-
-// Removes the lowest bit of the set and returns its index.
-template <class Bits>
-constexpr int takeLowest(Bits &set) {
-    const int index = lowestBit(set);
-    set &= set - 1;
-    return index;
-}
-
-// Whether bit i is in the set.
-constexpr bool hasBit(std::uint64_t set, int i) {
-    return (set >> i & 1) != 0;
-}
-constexpr bool hasBit(DoubleWord set, int i) {
-    const auto word = static_cast<std::uint64_t>(i < 64 ? set : set >> 64);
-    return (word >> (i & 63) & 1) != 0;
-}
-
-// The machine words of a set, the lowest first.
-constexpr int wordsOf(std::uint64_t) {
-    return 1;
-}
-constexpr int wordsOf(DoubleWord) {
-    return 2;
-}
-constexpr std::uint64_t word(std::uint64_t set, int) {
-    return set;
-}
-constexpr std::uint64_t word(DoubleWord set, int index) {
-    return static_cast<std::uint64_t>(index == 0 ? set : set >> 64);
-}
 
 constexpr int oppositeDirection(int d) {
     return (d + 2) % 4;
@@ -122,7 +63,8 @@ template <int N>
 struct DarkSquares {
     static constexpr int half = N / 2;
     static constexpr int bitCount = half * (N + 1);
-    using Bits = std::conditional_t<bitCount <= 64, std::uint64_t, DoubleWord>;
+    using Bits = std::conditional_t<bitCount <= 64, std::uint64_t, DoubleWord>; // to be scanned
+    using Set = SetOf<Bits>; // to be joined and shifted
 
     static constexpr int index(int x, int y) { return half * x + (x + y) / 2; }
     // Two words: a shift within one and a choice take less than a shift of both.
@@ -135,35 +77,29 @@ struct DarkSquares {
     }
     static constexpr Bits square(int x, int y) { return bit(index(x, y)); }
 
-    // The set moved one step in direction d; squares may leave the board, see above.
-    template <int d>
-    static constexpr Bits step(Bits set) {
-        if constexpr (d == 0)
-            return set << (half + 1);
-        else if constexpr (d == 1)
-            return set << half;
-        else if constexpr (d == 2)
-            return set >> (half + 1);
-        else
-            return set >> half;
-    }
     // By how much one step in direction d changes a square's index.
     static constexpr int stride(int d) {
         return d == 0 ? half + 1 : d == 1 ? half : d == 2 ? -half - 1 : -half;
     }
+    // The set moved one step in direction d; squares may leave the board, see above.
+    template <int d, class Words>
+    static constexpr Words step(Words set) {
+        if constexpr (stride(d) > 0)
+            return shiftedUp<stride(d)>(set);
+        else
+            return shiftedDown<-stride(d)>(set);
+    }
     // The squares from which a piece of `prey` is jumped in direction d onto a square of `free`.
     template <int d>
-    static constexpr Bits jumpFrom(Bits prey, Bits free) {
+    static Set jumpFrom(Set prey, Set free) {
         constexpr int back = oppositeDirection(d);
         return step<back>(prey & step<back>(free));
     }
     // The diagonal neighbours of the set.
-    static constexpr Bits around(Bits set) {
-        return step<0>(set) | step<1>(set) | step<2>(set) | step<3>(set);
-    }
+    static Set around(Set set) { return step<0>(set) | step<1>(set) | step<2>(set) | step<3>(set); }
     // One row forward: up the board for white, down for black.
     template <bool White>
-    static constexpr Bits forward(Bits set) {
+    static Set forward(Set set) {
         return White ? step<0>(set) | step<3>(set) : step<1>(set) | step<2>(set);
     }
 
@@ -204,6 +140,20 @@ struct DarkSquares {
             return 0;
         return d < 2 ? seen & (~seen + 1) : bit(highestBit(seen));
     }
+
+    // Each square as a set. Two words: a look at a table takes less than a shift.
+    static Set single(int i) {
+        if constexpr (bitCount <= 64)
+            return bit(i);
+        else
+            return asSet(singles[static_cast<unsigned>(i)]);
+    }
+    static constexpr std::array<Bits, bitCount> singles = [] {
+        std::array<Bits, bitCount> table{};
+        for (int i = 0; i < bitCount; ++i)
+            table[static_cast<unsigned>(i)] = bit(i);
+        return table;
+    }();
 
     // All squares in direction d from each square.
     template <int d>

@@ -56,9 +56,10 @@ std::string valuesOnBits(const BitPosition<Form::squares> &p) {
     const BitMaterial<Form::squares, Form::rules.flyingKings> material(*AbstractEngine::pSQV,
                                                                        AbstractEngine::isGambit);
     const int side = White ? 1 : -1;
+    const typename BitPosition<Form::squares>::Set noMen{};
     const int withPassages = material.balance(p, bits.whitePassageMen(), bits.blackPassageMen());
     return valuesText(bits.canPass(), side * AbstractEngine::freedomValue * bits.freedom(),
-                      side * material.balance(p, 0, 0), side * withPassages);
+                      side * material.balance(p, noMen, noMen), side * withPassages);
 }
 
 template <class Form, bool White>
