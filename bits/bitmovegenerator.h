@@ -27,12 +27,14 @@ public:
             if constexpr (Jumps::template jumps<false, d>)
                 places |= Squares::template jumpFrom<d>(enemy_, empty_);
         });
-        return (!isEmpty(kings_) && surveyKings()) || !isEmpty(men_ & places);
+        if (!isEmpty(kings_))
+            survey_ = surveyKings(kings_, enemy_, empty_);
+        return survey_.capture || !isEmpty(men_ & places);
     }
 
     // Number of non-capturing moves; to be asked after canCapture().
     int countQuiet() const {
-        return countBits(left() & empty_) + countBits(right() & empty_) + kingMoves_;
+        return countBits(left() & empty_) + countBits(right() & empty_) + survey_.moves;
     }
 
     // Appends the non-capturing moves: by piece in square order; a man's left target first, a
@@ -58,7 +60,8 @@ public:
     // Appends the legal captures in the order of generation, under a watch; to be asked after
     // canCapture().
     void listCaptures(Stack &stack, ListingWatch &watch) const {
-        BitCaptures<N, Rules, White>::list(position_, kingCaptures_, stack, watch);
+        BitCaptures<N, Rules, White>::list(position_, Rules.flyingKings && survey_.capture, stack,
+                                           watch);
     }
 
 private:
@@ -75,30 +78,25 @@ private:
         return asBits(men_ & Squares::template step<oppositeDirection(d)>(front & empty_));
     }
 
-    // The free squares that the kings see in direction d. No two kings see the same one: the nearer
-    // hides it from the farther.
-    template <int d>
-    Set kingView() const {
-        Set front = Squares::template step<d>(kings_) & empty_;
-        Set view = front;
-        while (Rules.flyingKings && !isEmpty(front)) {
-            front = Squares::template step<d>(front) & empty_;
-            view |= front;
-        }
-        return view;
-    }
+    struct KingSurvey {
+        int moves = 0;        // the kings' non-capturing ones
+        bool capture = false; // some king has one
+    };
 
-    // Counts the kings' non-capturing moves; true when some king can capture.
-    bool surveyKings() {
+    // Out of line, and with copies: without kings nothing need be kept in memory for it.
+    [[gnu::noinline]] static KingSurvey surveyKings(Set kings, Set enemy, Set empty) {
+        KingSurvey found;
         Set hit{};
         forEachDirection([&](auto d) {
-            const Set view = kingView<d>();
-            const Set from = Rules.flyingKings ? kings_ | view : kings_;
-            hit |= from & Squares::template jumpFrom<d>(enemy_, empty_);
-            kingMoves_ += countBits(view);
+            // No two kings see the same square: the nearer hides it from the farther.
+            const Set view = Rules.flyingKings ? Squares::template view<d>(kings, empty)
+                                               : Squares::template step<d>(kings) & empty;
+            const Set from = Rules.flyingKings ? kings | view : kings;
+            hit |= from & Squares::template jumpFrom<d>(enemy, empty);
+            found.moves += countBits(view);
         });
-        kingCaptures_ = Rules.flyingKings && !isEmpty(hit);
-        return !isEmpty(hit);
+        found.capture = !isEmpty(hit);
+        return found;
     }
 
     static BitMove<N> quietMove(int from, int to) {
@@ -121,8 +119,7 @@ private:
     const Set kings_;
     const Set men_;
     const Set empty_;
-    int kingMoves_ = 0;
-    bool kingCaptures_ = false; // some flying king
+    KingSurvey survey_;
 };
 
 #endif

@@ -81,19 +81,36 @@ struct DarkSquares {
     static constexpr int stride(int d) {
         return d == 0 ? half + 1 : d == 1 ? half : d == 2 ? -half - 1 : -half;
     }
-    // The set moved one step in direction d; squares may leave the board, see above.
-    template <int d, class Words>
+    // The set moved one step, or several, in direction d; squares may leave the board, see above.
+    template <int d, int Steps = 1, class Words>
     static constexpr Words step(Words set) {
         if constexpr (stride(d) > 0)
-            return shiftedUp<stride(d)>(set);
+            return shiftedUp<Steps * stride(d)>(set);
         else
-            return shiftedDown<-stride(d)>(set);
+            return shiftedDown<-Steps * stride(d)>(set);
     }
     // The squares from which a piece of `prey` is jumped in direction d onto a square of `free`.
     template <int d>
     static Set jumpFrom(Set prey, Set free) {
         constexpr int back = oppositeDirection(d);
         return step<back>(prey & step<back>(free));
+    }
+    // The squares of `free` that are in sight of `pieces` in direction d. Sight reaches 1, 3, 7 and
+    // 15 squares in turn (Kogge and Stone's doubling): a loop that goes square by square ends where
+    // no processor can foretell it.
+    template <int d>
+    static Set view(Set pieces, Set free) {
+        Set seen = pieces;
+        seen |= free & step<d>(seen);
+        free &= step<d>(free);
+        seen |= free & step<d, 2>(seen);
+        free &= step<d, 2>(free);
+        seen |= free & step<d, 4>(seen);
+        if constexpr (N > 8) {
+            free &= step<d, 4>(free);
+            seen |= free & step<d, 8>(seen);
+        }
+        return seen & ~pieces;
     }
     // The diagonal neighbours of the set.
     static Set around(Set set) { return step<0>(set) | step<1>(set) | step<2>(set) | step<3>(set); }
