@@ -1,8 +1,8 @@
 # Headers of the libraries that many of our files include. The compiler reads them once for a target
 # and those like it instead of once a file, which is most of the time that a build would take. A
 # file with options of its own has to go without (SKIP_PRECOMPILE_HEADERS): the code is the one of
-# the options that the headers were compiled with. Files still include all that they use: presets `debug`, `coverage` and `fuzz`
-# precompile nothing, and there a forgotten include does not compile.
+# the options that the headers were compiled with. Files still include all that they use: presets
+# `debug`, `coverage` and `fuzz` precompile nothing, and there a forgotten include does not compile.
 set(core_headers <algorithm> <memory> <utility> <vector> <QString> <QTextStream>)
 set(widget_headers
     <QAccessibleWidget> <QApplication> <QCheckBox> <QComboBox> <QDialog> <QEvent> <QGraphicsItem>
