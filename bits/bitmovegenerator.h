@@ -37,14 +37,14 @@ public:
         return countBits(left() & empty_) + countBits(right() & empty_) + survey_.moves;
     }
 
-    // Appends the non-capturing moves: by piece in square order; a man's left target first, a
-    // king's directions in their order and outwards.
-    void listQuiet(Stack &stack) const {
+    // Appends the non-capturing moves, `count` as countQuiet() told: by piece in square order; a
+    // man's left target first, a king's directions in their order and outwards.
+    void listQuiet(Stack &stack, int count) const {
         const Bits canLeft = movers<leftward>(left());
         const Bits canRight = movers<rightward>(right());
         const Bits kings = asBits(kings_);
         // Each man's two moves are written and one or both kept, without a branch.
-        BitMove<N> *end = stack.room(static_cast<unsigned>(countQuiet()) + 1);
+        BitMove<N> *end = stack.room(static_cast<unsigned>(count) + 1);
         for (Bits rest = canLeft | canRight | kings; rest != 0;) {
             const int from = takeLowest(rest);
             *end = quietMove(from, from + Squares::stride(leftward));

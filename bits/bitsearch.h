@@ -106,7 +106,7 @@ public:
     void prepareMoves(int childBudget) {
         if (!capture_) {
             context_.stack.cut(first_);
-            Generator(position_).listQuiet(context_.stack);
+            Generator(position_).listQuiet(context_.stack, moves_);
         }
         if (child_ == nullptr)
             child_ = std::make_unique<Child>(context_, level_ + 1);

@@ -92,8 +92,9 @@ std::string saidByBits(EngineRig &rig) {
     report.reset();
     tellMoves(captures, captures.size());
     MoveStack<BitMove<N>> quiet;
-    generator.listQuiet(quiet);
-    tellMoves(quiet, static_cast<std::size_t>(generator.countQuiet()));
+    const int count = generator.countQuiet();
+    generator.listQuiet(quiet, count);
+    tellMoves(quiet, static_cast<std::size_t>(count));
     return text + rig.host.takeBoxes() + valuesOnBits<Form, White>(position);
 }
 

@@ -68,7 +68,7 @@ void listOverBits(benchmark::State &state, Kind kind) {
         if (generator.canCapture())
             generator.listCaptures(stack, unwatched);
         else
-            generator.listQuiet(stack);
+            generator.listQuiet(stack, generator.countQuiet());
         benchmark::DoNotOptimize(stack.size());
         stack.cut(0);
     }

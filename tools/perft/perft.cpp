@@ -50,7 +50,7 @@ private:
         const std::size_t first = stack_.size();
         Generator<White> generator(p);
         if (!generator.canCapture() || listCaptures(generator) == 0)
-            generator.listQuiet(stack_);
+            generator.listQuiet(stack_, generator.countQuiet());
         quint64 positions = 0;
         const std::size_t end = stack_.size();
         for (std::size_t i = first; i < end; ++i)
