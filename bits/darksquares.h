@@ -10,8 +10,8 @@
 
 // How squares map to bits
 // -----------------------
-// Only the dark squares of an N x N board are ever occupied. A set of them is one unsigned integer
-// with the bit
+// Only the dark squares of an N x N board are ever occupied. A set of them is a row of bits, in one
+// machine word or two (see setwords.h), with the bit
 //
 //     index(x, y) = N/2 * x + (x + y) / 2
 //
@@ -40,11 +40,11 @@
 //
 // A shifted set must be cut to `all`, or to a set of real squares such as the empty ones, before it
 // is counted or scanned. The sizes take 21, 36, 55 and 78 bits: three fit into a machine word, the
-// largest into two (see setwords.h).
+// largest into two.
 //
 // Whole-board questions are then a few instructions for all pieces at once: the targets of all
-// men's simple moves are `step(men, d) & empty`, the men that can jump in direction d are
-// `men & jumpFrom(enemies, empty, d)`.
+// men's simple moves are `step<d>(men) & empty`, the men that can jump in direction d are
+// `men & jumpFrom<d>(enemies, empty)`.
 
 constexpr int oppositeDirection(int d) {
     return (d + 2) % 4;
