@@ -18,7 +18,6 @@ struct BitMove {
 template <int N>
 struct BitPosition {
     using Squares = DarkSquares<N>;
-    using Bits = typename Squares::Bits;
     using Set = typename Squares::Set;
 
     Set white{};
